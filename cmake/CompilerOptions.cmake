@@ -1,0 +1,47 @@
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+
+set(CMAKE_CXX_FLAGS_DEBUG "-Og -g")
+set(CMAKE_CXX_FLAGS_RELEASE "-O2 -g")
+
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/bin")
+set(CMAKE_SHARED_LIBRARY_PREFIX "")
+
+# Includes are written from the root of the repository; generated headers lie in the build folder likewise.
+include_directories("${CMAKE_SOURCE_DIR}" "${CMAKE_BINARY_DIR}")
+
+add_compile_definitions(UNICODE _UNICODE _WIN32_WINNT=0x0601 NOMINMAX)
+
+# A resource compiler knows no such options, so they are for C++ alone.
+set(cxx_options
+    -Wall
+    -Wextra
+    -Werror
+    -ffunction-sections
+    -fdata-sections
+    "-ffile-prefix-map=${CMAKE_SOURCE_DIR}=."
+    "-ffile-prefix-map=${CMAKE_BINARY_DIR}=build")
+add_compile_options("$<$<COMPILE_LANGUAGE:CXX>:${cxx_options}>")
+set(CMAKE_RC_FLAGS "${CMAKE_RC_FLAGS} --codepage=65001")
+
+add_link_options(
+    -static
+    -static-libgcc
+    -static-libstdc++
+    LINKER:--gc-sections
+    LINKER:--high-entropy-va
+    LINKER:--dynamicbase
+    LINKER:--nxcompat
+    LINKER:--no-insert-timestamp
+    LINKER:--exclude-all-symbols)
+
+#[[
+trelvix_precompile_headers(<target>)
+
+Compiles the platform's and the library's large headers once for the target. A source that must see a header before
+them (initguid.h, for one) sets its own SKIP_PRECOMPILE_HEADERS property.
+]]
+function(trelvix_precompile_headers target)
+    target_precompile_headers(${target} PRIVATE "$<$<COMPILE_LANGUAGE:CXX>:${CMAKE_SOURCE_DIR}/cmake/Precompiled.h>")
+endfunction()

@@ -1,10 +1,9 @@
 // Identifiers that the platform's headers declare and the compiler's libuuid lacks.
 
 #include <windows.h>
-
 #include <dispex.h>
-#include <mshtml.h>
 #include <mshtmhst.h>
+#include <mshtml.h>
 
 const CLSID CLSID_HTMLDocument = __uuidof(HTMLDocument);
 

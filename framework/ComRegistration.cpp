@@ -1,0 +1,93 @@
+#include "framework/ComModule.h"
+#include "framework/Module.h"
+#include "framework/Registrar.h"
+
+#include <comcat.h>
+#include <wrl/client.h>
+
+#include <string>
+
+using Microsoft::WRL::ComPtr;
+
+namespace
+{
+constexpr UINT TypeLibraryResource = 1;
+
+std::wstring GetModulePath()
+{
+    wchar_t szPath[MAX_PATH] = {};
+    GetModuleFileNameW(AfxGetInstanceHandle(), szPath, MAX_PATH);
+    return szPath;
+}
+
+HRESULT RegisterCategory(const CComClassEntry& entry, bool bRegister)
+{
+    if (entry.pImplementedCategory == nullptr)
+        return S_OK;
+    ComPtr<ICatRegister> spCategories;
+    const HRESULT hr =
+        CoCreateInstance(CLSID_StdComponentCategoriesMgr, nullptr, CLSCTX_INPROC_SERVER, IID_PPV_ARGS(&spCategories));
+    if (FAILED(hr))
+        return hr;
+    CATID category = *entry.pImplementedCategory;
+    return bRegister ? spCategories->RegisterClassImplCategories(*entry.pclsid, 1, &category)
+                     : spCategories->UnRegisterClassImplCategories(*entry.pclsid, 1, &category);
+}
+
+HRESULT RegisterLibrary()
+{
+    const std::wstring path = GetModulePath();
+    ComPtr<ITypeLib> spLibrary;
+    const HRESULT hr = LoadTypeLibEx(path.c_str(), REGKIND_NONE, &spLibrary);
+    return FAILED(hr) ? hr : RegisterTypeLib(spLibrary.Get(), const_cast<wchar_t*>(path.c_str()), nullptr);
+}
+
+HRESULT UnregisterLibrary(const GUID& libid)
+{
+    const HRESULT hr = UnRegisterTypeLib(libid, 1, 0, LOCALE_NEUTRAL, SYS_WIN64);
+    return hr == TYPE_E_REGISTRYACCESS ? S_OK : hr; // it was not registered
+}
+
+/// The registrar leaves a class key standing that holds keys which its script doesn't name.
+void DeleteClassKey(const CLSID& clsid)
+{
+    wchar_t szClsid[64] = {};
+    StringFromGUID2(clsid, szClsid, ARRAYSIZE(szClsid));
+    RegDeleteTreeW(HKEY_CLASSES_ROOT, (std::wstring(L"CLSID\\") + szClsid).c_str());
+}
+} // namespace
+
+HRESULT CComModule::RegisterServer() const
+{
+    for (const CComClassEntry& entry : m_classes)
+    {
+        HRESULT hr = RunRegistryScript(entry.nRegistryResource, true);
+        if (SUCCEEDED(hr))
+            hr = RegisterCategory(entry, true);
+        if (FAILED(hr))
+            return hr;
+    }
+    return RegisterLibrary();
+}
+
+HRESULT CComModule::UnregisterServer() const
+{
+    HRESULT hr = UnregisterLibrary(m_libid);
+    for (auto row = m_classes.rbegin(); row != m_classes.rend() && SUCCEEDED(hr); ++row)
+    {
+        hr = RegisterCategory(*row, false);
+        if (SUCCEEDED(hr))
+            hr = RunRegistryScript(row->nRegistryResource, false);
+        if (SUCCEEDED(hr))
+            DeleteClassKey(*row->pclsid);
+    }
+    return hr;
+}
+
+HRESULT CComModule::LoadTypeInfo(REFGUID guid, ITypeInfo** ppTypeInfo)
+{
+    const std::wstring path = GetModulePath() + L"\\" + std::to_wstring(TypeLibraryResource);
+    ComPtr<ITypeLib> spLibrary;
+    const HRESULT hr = LoadTypeLibEx(path.c_str(), REGKIND_NONE, &spLibrary);
+    return FAILED(hr) ? hr : spLibrary->GetTypeInfoOfGuid(guid, ppTypeInfo);
+}

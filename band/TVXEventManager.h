@@ -53,6 +53,16 @@ public:
     /// Whether `pCurrent` is the target itself or still loading.
     static bool IsTargetFrame(IDispatch* pTarget, IDispatch* pCurrent);
 
+protected:
+    Microsoft::WRL::ComPtr<IWebBrowser2> m_spWebBrowser;
+    int m_nNavigations = 0; ///< under way, by BeforeNavigate2 and DocumentComplete
+    int m_nDownloads = 0;   ///< under way, by DownloadBegin and DownloadComplete
+    EState m_eState = StateIdle;
+    Microsoft::WRL::ComPtr<IDispatch> m_spActiveFrame; ///< the frame that the current begin was told for
+    std::wstring m_strPendingUrl;                      ///< of a navigation whose frame was not yet to be found
+    ITVXEvents* m_pEvents;                             ///< not owned
+    const IDispatch* m_pLastFrame = nullptr;           ///< of the last counted BeforeNavigate2; an address to compare
+
 private:
     void OnBeforeNavigate(const DISPPARAMS& params);
     void OnDownloadBegin();
@@ -75,13 +85,4 @@ private:
     void FirePageRefreshComplete();
     void FireFrameRefreshBegin(IDispatch* pFrame, const std::wstring& strUrl, const std::wstring& strPath);
     void FireFrameRefreshComplete();
-
-    Microsoft::WRL::ComPtr<IWebBrowser2> m_spWebBrowser;
-    int m_nNavigations = 0; ///< under way, by BeforeNavigate2 and DocumentComplete
-    int m_nDownloads = 0;   ///< under way, by DownloadBegin and DownloadComplete
-    EState m_eState = StateIdle;
-    Microsoft::WRL::ComPtr<IDispatch> m_spActiveFrame; ///< the frame that the current begin was told for
-    std::wstring m_strPendingUrl;                      ///< of a navigation whose frame was not yet to be found
-    ITVXEvents* m_pEvents;                             ///< not owned
-    const IDispatch* m_pLastFrame = nullptr;           ///< of the last counted BeforeNavigate2; an address to compare
 };

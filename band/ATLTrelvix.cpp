@@ -1,0 +1,155 @@
+#include "band/ATLTrelvix.h"
+
+#include "band/BandService.h"
+#include "band/TrelvixWindow.h"
+#include "controls/XPStyleContext.h"
+#include "framework/ComBoundary.h"
+
+#include <windows.h>
+#include <comutil.h>
+#include <exdispid.h>
+
+#include <new>
+
+using Microsoft::WRL::ComPtr;
+
+namespace
+{
+/// Browser property with the handle of the toolbar window, for other components in the same browser.
+constexpr wchar_t ToolbarWindowProperty[] = L"TRELVIX_HWND";
+
+constexpr DWORD ToolbarStyle = WS_CHILD | WS_VISIBLE | WS_CLIPSIBLINGS | WS_TABSTOP | TBSTYLE_TRANSPARENT |
+                               TBSTYLE_LIST | TBSTYLE_FLAT | TBSTYLE_TOOLTIPS | CCS_NODIVIDER | CCS_NOPARENTALIGN |
+                               CCS_NORESIZE | CCS_NOMOVEY | CCS_TOP;
+static_assert(ToolbarStyle == 0x5401994F);
+} // namespace
+
+CATLTrelvix::CATLTrelvix() = default;
+
+CATLTrelvix::~CATLTrelvix() = default;
+
+STDMETHODIMP CATLTrelvix::SetSite(IUnknown* pUnkSite)
+{
+    return ComBoundary([&] {
+        if (pUnkSite != nullptr)
+            CountBandIn();
+        else
+            CountBandOut();
+        if (m_pSite)
+        {
+            UnadviseBrowserEvents();
+            m_pSite.Reset();
+        }
+        return pUnkSite ? Connect(pUnkSite) : S_OK;
+    });
+}
+
+HRESULT CATLTrelvix::Connect(IUnknown* pUnkSite)
+{
+    if (!FindParentWindow(pUnkSite) || FAILED(pUnkSite->QueryInterface(IID_PPV_ARGS(&m_pSite))))
+        return E_FAIL;
+    ComPtr<IServiceProvider> spServices;
+    if (FAILED(pUnkSite->QueryInterface(IID_PPV_ARGS(&spServices))))
+        return E_FAIL;
+    // Not tested, and meant so: a band is only ever sited in a browser.
+    spServices->QueryService(IID_IWebBrowserApp, IID_PPV_ARGS(&m_pWebBrowser));
+    if (!CreateToolbarWindow())
+        return E_FAIL;
+    AdviseBrowserEvents();
+    m_pToolbarWindow->SetBand(this);
+    PublishToolbarWindow();
+    return S_OK;
+}
+
+bool CATLTrelvix::FindParentWindow(IUnknown* pUnkSite)
+{
+    m_hWndParent = nullptr;
+    ComPtr<IOleWindow> spWindow;
+    if (SUCCEEDED(pUnkSite->QueryInterface(IID_PPV_ARGS(&spWindow))))
+        spWindow->GetWindow(&m_hWndParent);
+    return IsWindow(m_hWndParent);
+}
+
+bool CATLTrelvix::CreateToolbarWindow()
+{
+    RECT rect = {};
+    GetClientRect(m_hWndParent, &rect);
+    const CXPStyleContext style;
+    m_pToolbarWindow.reset(new (std::nothrow) CTrelvixWindow);
+    if (m_pToolbarWindow == nullptr)
+        return false;
+    m_pToolbarWindow->SetWebBrowser(m_pWebBrowser.Get());
+    if (!m_pToolbarWindow->Create(ToolbarStyle, rect, m_hWndParent, ToolbarControlId))
+    {
+        m_pToolbarWindow.reset();
+        return false;
+    }
+    m_hWnd = m_pToolbarWindow->m_hWnd;
+    return IsWindow(m_hWnd);
+}
+
+ComPtr<IConnectionPoint> CATLTrelvix::FindEventPoint() const
+{
+    ComPtr<IConnectionPointContainer> spContainer;
+    ComPtr<IConnectionPoint> spPoint;
+    if (m_pWebBrowser && SUCCEEDED(m_pWebBrowser.As(&spContainer)))
+        spContainer->FindConnectionPoint(DIID_DWebBrowserEvents2, &spPoint);
+    return spPoint;
+}
+
+void CATLTrelvix::AdviseBrowserEvents()
+{
+    // A band that can't be advised still shows a working toolbar, which is not told about page loads.
+    if (const ComPtr<IConnectionPoint> spPoint = FindEventPoint())
+        spPoint->Advise(static_cast<IDispatch*>(this), &m_dwEventCookie);
+}
+
+void CATLTrelvix::UnadviseBrowserEvents()
+{
+    if (const ComPtr<IConnectionPoint> spPoint = FindEventPoint())
+        spPoint->Unadvise(m_dwEventCookie);
+    m_dwEventCookie = 0;
+}
+
+void CATLTrelvix::PublishToolbarWindow()
+{
+    if (m_pWebBrowser == nullptr)
+        return;
+    const _variant_t window(static_cast<long>(reinterpret_cast<LONG_PTR>(m_pToolbarWindow->m_hWnd)));
+    m_pWebBrowser->PutProperty(_bstr_t(ToolbarWindowProperty), window);
+}
+
+STDMETHODIMP CATLTrelvix::GetSite(REFIID riid, void** ppvSite)
+{
+    if (ppvSite == nullptr)
+        return E_POINTER;
+    *ppvSite = nullptr;
+    return m_pSite ? m_pSite->QueryInterface(riid, ppvSite) : E_FAIL;
+}
+
+STDMETHODIMP CATLTrelvix::Invoke(DISPID dispid, REFIID riid, LCID lcid, WORD wFlags, DISPPARAMS* pDispParams,
+                                 VARIANT* pVarResult, EXCEPINFO* pExcepInfo, UINT* puArgErr)
+{
+    if (pDispParams == nullptr)
+        return E_INVALIDARG;
+    ComBoundary([&] {
+        if (m_pToolbarWindow)
+            m_pToolbarWindow->Invoke(dispid, riid, lcid, wFlags, pDispParams, pVarResult, pExcepInfo, puArgErr);
+        return S_OK;
+    });
+    if (dispid == DISPID_ONQUIT)
+    {
+        UnadviseBrowserEvents();
+        m_pSite.Reset();
+    }
+    return S_OK;
+}
+
+void CATLTrelvix::NotifyFocusChange(bool bFocus)
+{
+    if (m_pSite == nullptr)
+        return;
+    ComPtr<IUnknown> spUnknown;
+    static_cast<IATLTrelvix*>(this)->QueryInterface(IID_PPV_ARGS(&spUnknown));
+    m_pSite->OnFocusChangeIS(spUnknown.Get(), bFocus);
+}

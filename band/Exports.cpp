@@ -1,0 +1,43 @@
+#include "band/BrowserRegistration.h"
+#include "band/TrelvixApp.h"
+#include "framework/ComBoundary.h"
+#include "framework/ComModule.h"
+
+#include <windows.h>
+
+namespace
+{
+CComModule s_module;
+CTrelvixApp s_app;
+} // namespace
+
+BOOL WINAPI DllMain(HINSTANCE, DWORD dwReason, void*)
+{
+    if (dwReason == DLL_PROCESS_ATTACH)
+        return s_app.InitInstance();
+    if (dwReason == DLL_PROCESS_DETACH)
+        s_app.ExitInstance();
+    return TRUE;
+}
+
+STDAPI DllCanUnloadNow()
+{
+    return AfxDllCanUnloadNow() == S_OK && s_module.GetLockCount() == 0 ? S_OK : S_FALSE;
+}
+
+STDAPI DllGetClassObject(REFCLSID rclsid, REFIID riid, void** ppv)
+{
+    return ComBoundary([&] { return s_module.GetClassObject(rclsid, riid, ppv); });
+}
+
+STDAPI DllRegisterServer()
+{
+    RegisterWithBrowser();
+    return ComBoundary([] { return s_module.RegisterServer(); });
+}
+
+STDAPI DllUnregisterServer()
+{
+    UnregisterFromBrowser();
+    return ComBoundary([] { return s_module.UnregisterServer(); });
+}

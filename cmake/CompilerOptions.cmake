@@ -35,13 +35,3 @@ add_link_options(
     LINKER:--nxcompat
     LINKER:--no-insert-timestamp
     LINKER:--exclude-all-symbols)
-
-#[[
-trelvix_precompile_headers(<target>)
-
-Compiles the platform's and the library's large headers once for the target. A source that must see a header before
-them (initguid.h, for one) sets its own SKIP_PRECOMPILE_HEADERS property.
-]]
-function(trelvix_precompile_headers target)
-    target_precompile_headers(${target} PRIVATE "$<$<COMPILE_LANGUAGE:CXX>:${CMAKE_SOURCE_DIR}/cmake/Precompiled.h>")
-endfunction()

@@ -3,7 +3,6 @@
 // The large headers that most sources need. Every source still includes what it uses.
 
 #include <windows.h>
-
 #include <commctrl.h>
 #include <exdisp.h>
 #include <mshtml.h>

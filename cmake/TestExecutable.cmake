@@ -1,3 +1,13 @@
+# Tests are compiled far more often than they are run, and their headers are too large to track columns in.
+set(test_options "$<$<COMPILE_LANGUAGE:CXX>:-O0;-Wno-misleading-indentation>")
+
+add_library(precompiled_for_tests OBJECT EXCLUDE_FROM_ALL cmake/Precompiled.cpp)
+target_precompile_headers(precompiled_for_tests PRIVATE
+    "${CMAKE_SOURCE_DIR}/cmake/Precompiled.h"
+    <gmock/gmock.h>)
+target_link_libraries(precompiled_for_tests PRIVATE GTest::gmock)
+target_compile_options(precompiled_for_tests PRIVATE ${test_options})
+
 #[[
 trelvix_add_tests(<name> SOURCES <file>... [LIBRARIES <target>...] [TIMEOUT <seconds>] [GUI] [OWN_PREFIX])
 
@@ -14,9 +24,8 @@ function(trelvix_add_tests name)
     endif()
     add_executable(${name} ${arg_SOURCES})
     target_link_libraries(${name} PRIVATE ${arg_LIBRARIES} GTest::gmock_main)
-    trelvix_precompile_headers(${name})
-    # Tests are compiled far more often than they are run.
-    target_compile_options(${name} PRIVATE "$<$<COMPILE_LANGUAGE:CXX>:-O0>")
+    target_precompile_headers(${name} REUSE_FROM precompiled_for_tests)
+    target_compile_options(${name} PRIVATE ${test_options})
     set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/tests")
 
     set(properties TIMEOUT ${arg_TIMEOUT})

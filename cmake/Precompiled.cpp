@@ -1,0 +1,1 @@
+// The object whose compilation the precompiled headers belong to.

@@ -23,7 +23,8 @@ function(add_idl_library target idl)
         OUTPUT "${base}.h" "${base}.tlb" "${base}_i.cpp"
         COMMAND ${widl} -h -o "${base}.h" "${source}"
         COMMAND ${widl} -u -o "${base}_i.cpp" "${source}"
-        COMMAND ${widl} -t -o "${base}.tlb" "${source}"
+        # widl writes the time into a type library, and the same sources are to give the same binary.
+        COMMAND faketime -f "2000-01-01 00:00:00" ${widl} -t -o "${base}.tlb" "${source}"
         DEPENDS "${source}"
         COMMENT "Compiling ${idl}"
         VERBATIM)

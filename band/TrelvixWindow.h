@@ -63,6 +63,9 @@ public:
     bool HandleSearchWebUrl(std::wstring& strUrl);
     bool HandleNewInstanceUrl(std::wstring& strUrl);
 
+    /// Offers a script error to each visible item, in the order of the table; an item may clear the flags.
+    void FireScriptError(IHTMLDocument2* pDocument, bool* pbContinueScripts, bool* pbNotHandled);
+
     /// The input-object protocol of the band, as IInputObject.
     HRESULT UIActivateIO(BOOL fActivate, MSG* pMsg);
     HRESULT HasFocusIO();

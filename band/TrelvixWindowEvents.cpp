@@ -27,6 +27,13 @@ void CTrelvixWindow::FireInvoke(DISPID dispid, REFIID riid, LCID lcid, WORD wFla
     });
 }
 
+void CTrelvixWindow::FireScriptError(IHTMLDocument2* pDocument, bool* pbContinueScripts, bool* pbNotHandled)
+{
+    for (int nIndex = 0; nIndex < ButtonCount; ++nIndex)
+        if (CTrelvixButton* pButton = GetVisibleButton(nIndex))
+            pButton->OnScriptError(pDocument, pbContinueScripts, pbNotHandled);
+}
+
 void CTrelvixWindow::OnPageLoadBegin(IDispatch* pFrame, LPCWSTR pszUrl)
 {
     ForEachInLayout([&](CTrelvixButton& button) { button.OnPageLoadBegin(pFrame, pszUrl); });

@@ -1,0 +1,141 @@
+#include "bench/engine/LoadTracker.h"
+
+#include <utility>
+
+namespace
+{
+bool BeginsWith(const std::wstring& text, const wchar_t* pszStart)
+{
+    return text.rfind(pszStart, 0) == 0;
+}
+
+bool IsWithinDocument(const std::string& type)
+{
+    return type == "sameDocument" || type == "historySameDocument";
+}
+
+bool IsReload(const std::string& type)
+{
+    return type == "reload" || type == "reloadBypassingCache";
+}
+} // namespace
+
+bool IsFetchedUrl(const std::wstring& url)
+{
+    return BeginsWith(url, L"http:") || BeginsWith(url, L"https:");
+}
+
+bool CLoadTracker::BeginOwnNavigation(const CNavigation& navigation)
+{
+    if (IsFetchedUrl(navigation.strUrl))
+        return true;
+    if (!m_events.OnBeforeNavigate(navigation))
+        return false;
+    m_ownFrameId = navigation.strFrameId;
+    return true;
+}
+
+void CLoadTracker::OnStartedNavigating(const std::string& frameId, const std::wstring& url, const std::string& type)
+{
+    CPageFrame* const pFrame = m_frames.Find(frameId);
+    if (pFrame == nullptr || IsWithinDocument(type))
+        return;
+    const bool bOwn = std::exchange(m_ownFrameId, {}) == frameId;
+    pFrame->bReload = IsReload(type);
+    pFrame->bCommitted = false;
+    if (pFrame->bReload)
+        return Begin(frameId);
+    if (IsFetchedUrl(url))
+        return;
+    if (!bOwn)
+        m_events.OnBeforeNavigate({.strFrameId = frameId, .strUrl = url});
+    Begin(frameId);
+}
+
+bool CLoadTracker::OnRequest(const CNavigation& navigation)
+{
+    const CPageFrame* const pFrame = m_frames.Find(navigation.strFrameId);
+    return pFrame == nullptr || pFrame->bReload || m_events.OnBeforeNavigate(navigation);
+}
+
+void CLoadTracker::OnRequestAllowed(const std::string& frameId)
+{
+    const CPageFrame* const pFrame = m_frames.Find(frameId);
+    if (pFrame != nullptr && !pFrame->bReload)
+        Begin(frameId);
+}
+
+void CLoadTracker::OnCommitted(const std::string& frameId, const std::wstring& url, const std::wstring& name,
+                               const std::wstring& unreachableUrl)
+{
+    CPageFrame* const pFrame = m_frames.Find(frameId);
+    if (pFrame == nullptr)
+        return;
+    for (const std::string& childId : std::vector(pFrame->children))
+        OnDetached(childId);
+    pFrame->strUrl = unreachableUrl.empty() ? url : unreachableUrl;
+    pFrame->strName = name;
+    pFrame->bCommitted = true;
+    if (pFrame->bDownloading)
+        pFrame->eState = ELoadState::Interactive;
+    const bool bReload = pFrame->bReload;
+    if (!unreachableUrl.empty())
+        m_events.OnNavigateError(frameId, unreachableUrl);
+    if (!bReload)
+        m_events.OnNavigateComplete(frameId);
+}
+
+void CLoadTracker::OnMovedWithinDocument(const std::string& frameId, const std::wstring& url)
+{
+    CPageFrame* const pFrame = m_frames.Find(frameId);
+    if (pFrame == nullptr)
+        return;
+    m_events.OnBeforeNavigate({.strFrameId = frameId, .strUrl = url});
+    if (CPageFrame* const pStillThere = m_frames.Find(frameId))
+        pStillThere->strUrl = url;
+    m_events.OnNavigateComplete(frameId);
+    m_events.OnDocumentComplete(frameId);
+}
+
+void CLoadTracker::OnStoppedLoading(const std::string& frameId)
+{
+    const CPageFrame* const pFrame = m_frames.Find(frameId);
+    if (pFrame == nullptr || !pFrame->bDownloading)
+        return;
+    const bool bNewDocument = pFrame->bCommitted && !pFrame->bReload;
+    End(frameId);
+    if (bNewDocument)
+        m_events.OnDocumentComplete(frameId);
+}
+
+void CLoadTracker::OnDetached(const std::string& frameId)
+{
+    for (const CPageFrame& frame : m_frames.Detach(frameId))
+    {
+        if (frame.bDownloading)
+            m_events.OnDownloadComplete(frame.strId);
+        m_events.OnFrameGone(frame.strId);
+    }
+}
+
+void CLoadTracker::Begin(const std::string& frameId)
+{
+    // A load that takes another's place ends it.
+    End(frameId);
+    CPageFrame* const pFrame = m_frames.Find(frameId);
+    if (pFrame == nullptr)
+        return;
+    pFrame->bDownloading = true;
+    pFrame->eState = ELoadState::Loading;
+    m_events.OnDownloadBegin(frameId);
+}
+
+void CLoadTracker::End(const std::string& frameId)
+{
+    CPageFrame* const pFrame = m_frames.Find(frameId);
+    if (pFrame == nullptr || !pFrame->bDownloading)
+        return;
+    pFrame->bDownloading = false;
+    pFrame->eState = ELoadState::Complete;
+    m_events.OnDownloadComplete(frameId);
+}

@@ -1,0 +1,170 @@
+#include "bench/protocol/Connection.h"
+
+#include <utility>
+
+namespace
+{
+constexpr UINT WM_ARRIVAL = WM_APP;
+constexpr DWORD CallTimeoutMs = 15000;
+
+bool IsEvent(const Json& message)
+{
+    return message.contains("method");
+}
+
+bool IsAny(const Json&)
+{
+    return true;
+}
+} // namespace
+
+BEGIN_MESSAGE_MAP(CConnection, CWnd)
+    ON_MESSAGE(WM_ARRIVAL, OnArrival)
+END_MESSAGE_MAP()
+
+CConnection::~CConnection()
+{
+    Close();
+}
+
+bool CConnection::Open(WORD wPort, const std::wstring& path)
+{
+    if (!CreateEx(0, nullptr, L"", 0, RECT {}, HWND_MESSAGE, 0) || !m_socket.Connect(wPort, path))
+        return false;
+    m_reader = std::thread(&CConnection::ReadAll, this);
+    return true;
+}
+
+void CConnection::Close()
+{
+    m_bClosedTold = true;
+    Abandon();
+    if (!m_reader.joinable())
+        return;
+    m_socket.Shutdown();
+    m_reader.join();
+    DestroyWindow();
+}
+
+void CConnection::ReadAll()
+{
+    std::string text;
+    while (m_socket.Receive(text))
+    {
+        Json message = Json::parse(text, nullptr, false);
+        if (!message.is_object())
+            continue;
+        m_queue.Add(std::move(message));
+        PostMessageW(m_hWnd, WM_ARRIVAL, 0, 0);
+    }
+    m_queue.End();
+    PostMessageW(m_hWnd, WM_ARRIVAL, 0, 0);
+}
+
+int CConnection::Send(const char* pszMethod, Json params)
+{
+    const int nId = ++m_nLastId;
+    const Json message = {{"id", nId}, {"method", pszMethod}, {"params", std::move(params)}};
+    m_socket.Send(message.dump(-1, ' ', false, Json::error_handler_t::replace));
+    return nId;
+}
+
+void CConnection::Post(const char* pszMethod, Json params, Reply reply)
+{
+    if (m_bAbandoned)
+        return;
+    const int nId = Send(pszMethod, std::move(params));
+    if (reply)
+        m_replies[nId] = std::move(reply);
+}
+
+std::optional<Json> CConnection::Call(const char* pszMethod, Json params)
+{
+    if (m_bAbandoned)
+        return std::nullopt;
+    const int nId = Send(pszMethod, std::move(params));
+    m_waiting.insert(nId);
+    const bool bAnswered = WaitForReply(nId);
+    m_waiting.erase(nId);
+    if (!bAnswered)
+        return std::nullopt;
+    const Json answer = std::move(m_answers.extract(nId).mapped());
+    if (!answer.contains("result"))
+        return std::nullopt;
+    return answer["result"];
+}
+
+bool CConnection::WaitForReply(int nId)
+{
+    const ULONGLONG ullEnd = GetTickCount64() + CallTimeoutMs;
+    for (;;)
+    {
+        // The answer may also have been taken by a message loop inside an urgent event.
+        if (!m_answers.contains(nId))
+            if (auto answer = m_queue.Take([=](const Json& message) { return GetNumber(message, "id", 0) == nId; }))
+                m_answers[nId] = std::move(*answer);
+        if (m_answers.contains(nId))
+            return true;
+        HandleUrgent();
+        if (m_answers.contains(nId))
+            return true;
+        if (m_bAbandoned || m_queue.HasEnded() || !WaitForArrival(ullEnd))
+            return false;
+    }
+}
+
+bool CConnection::WaitForArrival(ULONGLONG ullEnd)
+{
+    const ULONGLONG ullNow = GetTickCount64();
+    if (ullNow >= ullEnd)
+        return false;
+    const HANDLE hArrival = m_queue.GetArrivalEvent();
+    MsgWaitForMultipleObjects(1, &hArrival, FALSE, static_cast<DWORD>(ullEnd - ullNow), QS_SENDMESSAGE);
+    MSG msg;
+    PeekMessageW(&msg, nullptr, 0, 0, PM_NOREMOVE | PM_QS_SENDMESSAGE);
+    return true;
+}
+
+void CConnection::HandleUrgent()
+{
+    const auto isUrgent = [this](const Json& message) {
+        return IsEvent(message) && m_events.IsUrgent(GetNarrowText(message, "method"));
+    };
+    // What came before an urgent event is handled before it, so that no event overtakes another.
+    while (m_queue.Holds(isUrgent))
+        if (const auto message = m_queue.Take(IsAny))
+            Handle(*message);
+}
+
+LRESULT CConnection::OnArrival(WPARAM, LPARAM)
+{
+    while (const auto message = m_queue.Take(IsAny))
+        Handle(*message);
+    if (m_queue.HasEnded() && !std::exchange(m_bClosedTold, true))
+    {
+        Abandon();
+        m_events.OnProtocolClosed();
+    }
+    return 0;
+}
+
+void CConnection::Handle(const Json& message)
+{
+    if (IsEvent(message))
+        m_events.OnProtocolEvent(GetNarrowText(message, "method"), GetObjectMember(message, "params"));
+    else
+        HandleReply(message);
+}
+
+void CConnection::HandleReply(const Json& message)
+{
+    const int nId = GetNumber(message, "id", 0);
+    if (m_waiting.contains(nId))
+    {
+        m_answers[nId] = message;
+        return;
+    }
+    const auto waiting = m_replies.extract(nId);
+    if (waiting && message.contains("result"))
+        waiting.mapped()(message["result"]);
+}

@@ -20,5 +20,5 @@ inline bool IsSameObject(IUnknown* pLeft, IUnknown* pRight)
     if (pLeft == pRight)
         return true;
     const Microsoft::WRL::ComPtr<IUnknown> spLeft = QueryFor<IUnknown>(pLeft);
-    return spLeft && spLeft == QueryFor<IUnknown>(pRight);
+    return spLeft && spLeft.Get() == QueryFor<IUnknown>(pRight).Get();
 }

@@ -6,6 +6,7 @@
 #include <oaidl.h>
 
 #include <deque>
+#include <memory>
 #include <string>
 #include <vector>
 

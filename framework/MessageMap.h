@@ -1,6 +1,7 @@
 #pragma once
 
 #include <windows.h>
+#include <olectl.h>
 
 class CWnd;
 
@@ -13,8 +14,8 @@ struct CWndMessage
     LRESULT lResult;
 };
 
-/// A row of a message map. `nCode` is the notification code of WM_COMMAND and WM_NOTIFY, `nID` and `nLastID` the range
-/// of command or control numbers; all three are 0 for other messages.
+/// A row of a message map. `nCode` is the notification code of WM_COMMAND, OCM_COMMAND and WM_NOTIFY, `nID` and
+/// `nLastID` the range of command or control numbers; they are 0 where a message has none.
 struct AFX_MSGMAP_ENTRY
 {
     UINT nMessage;
@@ -121,6 +122,9 @@ protected:                                                                      
 /// `void Handler(UINT nID)` for the command numbers from `id` to `lastId`
 #define ON_COMMAND_RANGE(id, lastId, handler)                                                                          \
     {WM_COMMAND, 0, id, lastId, &AfxMessage::CallCommand<ThisClass, &ThisClass::handler>},
+/// `void Handler()` in a control, for one of its own notifications to its parent
+#define ON_CONTROL_REFLECT(code, handler)                                                                              \
+    {OCM_COMMAND, code, 0, 0, &AfxMessage::CallPlain<ThisClass, &ThisClass::handler>},
 /// `void Handler(NMHDR* pNMHDR, LRESULT* pResult)` for one notification of one control
 #define ON_NOTIFY(code, id, handler)                                                                                   \
     {WM_NOTIFY, static_cast<UINT>(code), id, id, &AfxMessage::CallNotify<ThisClass, &ThisClass::handler>},

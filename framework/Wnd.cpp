@@ -144,6 +144,12 @@ bool CWnd::DestroyWindow()
     return m_hWnd != nullptr && ::DestroyWindow(m_hWnd);
 }
 
+void CWnd::GetWindowText(std::wstring& strText) const
+{
+    strText.resize(::GetWindowTextLengthW(m_hWnd));
+    strText.resize(::GetWindowTextW(m_hWnd, strText.data(), static_cast<int>(strText.size() + 1)));
+}
+
 CWnd* CWnd::FromHandlePermanent(HWND hWnd)
 {
     return GetWindowMap().Find(hWnd);
@@ -177,6 +183,8 @@ bool Matches(const AFX_MSGMAP_ENTRY& entry, const CWndMessage& message)
         const UINT nID = LOWORD(message.wParam);
         return entry.nCode == HIWORD(message.wParam) && nID >= entry.nID && nID <= entry.nLastID;
     }
+    if (message.message == OCM_COMMAND)
+        return entry.nCode == HIWORD(message.wParam);
     if (message.message == WM_NOTIFY)
     {
         const auto* pHeader = reinterpret_cast<const NMHDR*>(message.lParam);
@@ -197,17 +205,32 @@ const AFX_MSGMAP_ENTRY* FindEntry(const AFX_MSGMAP* pMap, const CWndMessage& mes
 
 LRESULT CWnd::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 {
+    if (message == WM_COMMAND && ReflectCommand(wParam, lParam))
+        return 0;
     CWndMessage current = {message, wParam, lParam, 0};
-    const AFX_MSGMAP_ENTRY* pEntry = FindEntry(GetMessageMap(), current);
+    return CallHandler(current) ? current.lResult : DefWindowProc(message, wParam, lParam);
+}
+
+bool CWnd::CallHandler(CWndMessage& message)
+{
+    const AFX_MSGMAP_ENTRY* pEntry = FindEntry(GetMessageMap(), message);
     if (pEntry == nullptr)
-        return DefWindowProc(message, wParam, lParam);
+        return false;
     const HWND hWnd = m_hWnd;
-    CWndMessage* const pOuterMessage = std::exchange(m_pCurrentMessage, &current);
-    pEntry->pfnCall(*this, current);
+    CWndMessage* const pOuterMessage = std::exchange(m_pCurrentMessage, &message);
+    pEntry->pfnCall(*this, message);
     // The handler may have destroyed the window, and the object with it.
     if (FromHandlePermanent(hWnd) == this)
         m_pCurrentMessage = pOuterMessage;
-    return current.lResult;
+    return true;
+}
+
+bool CWnd::ReflectCommand(WPARAM wParam, LPARAM lParam)
+{
+    const HWND hWndControl = reinterpret_cast<HWND>(lParam);
+    CWnd* const pControl = IsChild(m_hWnd, hWndControl) ? FromHandlePermanent(hWndControl) : nullptr;
+    CWndMessage reflected = {OCM_COMMAND, wParam, lParam, 0};
+    return pControl != nullptr && pControl->CallHandler(reflected);
 }
 
 LRESULT CWnd::DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam)

@@ -5,6 +5,8 @@
 
 #include <windows.h>
 
+#include <string>
+
 /// A window of the platform with a message map. The object owns its window: destroying the object destroys the window.
 /// The window may also go first; `m_hWnd` is then null. All of an object's life belongs to the thread of its window.
 class CWnd : public CObject
@@ -34,6 +36,9 @@ public:
     /// Destroys the window; false when there is none.
     bool DestroyWindow();
 
+    /// The window's title, or the text of a control; empty without a window.
+    void GetWindowText(std::wstring& strText) const;
+
     /// The object attached to the window in this module, or null.
     static CWnd* FromHandlePermanent(HWND hWnd);
 
@@ -45,7 +50,8 @@ protected:
     static const AFX_MSGMAP* GetThisMessageMap();
     virtual const AFX_MSGMAP* GetMessageMap() const;
 
-    /// Finds the message's handler in the maps, or hands the message to the window's own procedure.
+    /// Finds the message's handler in the maps, or hands the message to the window's own procedure. A notification of a
+    /// child goes to the child's own map first, and no further when that has a handler.
     virtual LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam);
 
     /// The procedure that the window had before it was attached.
@@ -59,6 +65,8 @@ protected:
 
 private:
     static LRESULT CALLBACK AfxWndProc(HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam);
+    bool CallHandler(CWndMessage& message);
+    bool ReflectCommand(WPARAM wParam, LPARAM lParam);
     LRESULT OnNcDestroy(WPARAM wParam, LPARAM lParam);
 
     WNDPROC m_pfnSuper = nullptr;

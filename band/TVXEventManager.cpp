@@ -47,15 +47,6 @@ ComPtr<IEnumUnknown> EnumEmbeddedObjects(IDispatch* pFrame)
     return spEnum;
 }
 
-/// The next embedded object; null at the end.
-ComPtr<IUnknown> NextObject(IEnumUnknown& objects)
-{
-    ComPtr<IUnknown> spObject;
-    if (objects.Next(1, &spObject, nullptr) != S_OK)
-        return nullptr;
-    return spObject;
-}
-
 /// The embedded object as a frame's browser; null for an object of another kind.
 ComPtr<IDispatch> GetFrameBrowser(IUnknown* pObject)
 {
@@ -87,7 +78,8 @@ bool CTVXEventManager::FindLoadingFrame(IDispatch* pTarget, const std::wstring& 
     if (!spObjects)
         return false;
     int nNumber = 0;
-    while (const ComPtr<IUnknown> spObject = NextObject(*spObjects.Get()))
+    ComPtr<IUnknown> spObject;
+    while (spObjects->Next(1, spObject.ReleaseAndGetAddressOf(), nullptr) == S_OK)
     {
         const ComPtr<IDispatch> spChild = GetFrameBrowser(spObject.Get());
         if (!spChild)

@@ -1,0 +1,279 @@
+// What the platform's own regsvr32 writes for the library, and what it leaves. Registered for the machine, so these
+// tests run in a Wine prefix of their own.
+
+#include "tests/system/BuiltFile.h"
+#include "tests/system/ChildProcess.h"
+#include "tests/system/RegistryDump.h"
+
+#include <windows.h>
+#include <gmock/gmock.h>
+
+#include <string>
+
+using testing::Contains;
+using testing::IsEmpty;
+using testing::Pair;
+
+namespace
+{
+constexpr wchar_t Software[] = L"Software";
+constexpr wchar_t ToolbarKey[] = L"Software\\Microsoft\\Internet Explorer\\Toolbar";
+constexpr wchar_t BandClass[] = L"{3E1201F4-1707-409F-BB45-A5F192381DA0}";
+constexpr wchar_t HandlerClass[] = L"{AB9DE66B-FEF9-421E-ADB9-FB6946E3EBDC}";
+constexpr wchar_t TypeLibrary[] = L"{F8A95503-57E9-4900-8863-87B12992CFC6}";
+constexpr wchar_t BandInterface[] = L"{CCC31D3D-3ED3-472A-803D-4AB898145535}";
+constexpr wchar_t HandlerInterface[] = L"{2CB5F4A4-7F4A-4563-9B96-E0EDB5E26740}";
+constexpr wchar_t AppContainerCompatible[] = L"{59FB2056-D625-48D0-A944-1A85B5AB2640}";
+constexpr wchar_t AutomationMarshaler[] = L"{00020424-0000-0000-C000-000000000046}";
+
+/// REG_BINARY without data, as a dump tells it.
+constexpr wchar_t EmptyBinary[] = L"3:";
+
+std::wstring GetLibrary()
+{
+    return GetShippedFile(L"Trelvix.x64.dll").wstring();
+}
+
+DWORD RunRegsvr32(const std::wstring& strOptions)
+{
+    wchar_t szFolder[MAX_PATH] = {};
+    GetSystemDirectoryW(szFolder, MAX_PATH);
+    return RunProgram(std::wstring(szFolder) + L"\\regsvr32.exe", L"/s " + strOptions + L" \"" + GetLibrary() + L"\"");
+}
+
+DWORD Register()
+{
+    return RunRegsvr32(L"");
+}
+
+DWORD Unregister()
+{
+    return RunRegsvr32(L"/u");
+}
+
+std::wstring Classes(const std::wstring& strPath)
+{
+    return L"Software\\Classes\\" + strPath;
+}
+
+std::wstring ClassKey(const std::wstring& strClass)
+{
+    return Classes(L"CLSID\\" + strClass);
+}
+
+/// What a registration script writes for a class.
+CRegistryDump DescribeClass(const std::wstring& strProgId, const std::wstring& strClass,
+                            const std::wstring& strProgIdText, const std::wstring& strClassText)
+{
+    const std::wstring strVersioned = Classes(strProgId + L".1");
+    const std::wstring strUnversioned = Classes(strProgId);
+    const std::wstring strKey = ClassKey(strClass);
+    return {
+        {strVersioned + L"\\", L""},
+        {strVersioned + L"\\@", strProgIdText},
+        {strVersioned + L"\\CLSID\\", L""},
+        {strVersioned + L"\\CLSID\\@", strClass},
+        {strUnversioned + L"\\", L""},
+        {strUnversioned + L"\\@", strProgIdText},
+        {strUnversioned + L"\\CLSID\\", L""},
+        {strUnversioned + L"\\CLSID\\@", strClass},
+        {strUnversioned + L"\\CurVer\\", L""},
+        {strUnversioned + L"\\CurVer\\@", strProgId + L".1"},
+        {strKey + L"\\", L""},
+        {strKey + L"\\@", strClassText},
+        {strKey + L"\\ProgID\\", L""},
+        {strKey + L"\\ProgID\\@", strProgId + L".1"},
+        {strKey + L"\\VersionIndependentProgID\\", L""},
+        {strKey + L"\\VersionIndependentProgID\\@", strProgId},
+        {strKey + L"\\Programmable\\", L""},
+        {strKey + L"\\InprocServer32\\", L""},
+        {strKey + L"\\InprocServer32\\@", GetLibrary()},
+        {strKey + L"\\InprocServer32\\ThreadingModel", L"Apartment"},
+        {strKey + L"\\TypeLib\\", L""},
+        {strKey + L"\\TypeLib\\@", TypeLibrary},
+    };
+}
+
+/// What the platform writes for a dual interface of a registered type library.
+CRegistryDump DescribeInterface(const std::wstring& strInterface, const std::wstring& strName)
+{
+    const std::wstring strKey = Classes(L"Interface\\" + strInterface);
+    return {
+        {strKey + L"\\", L""},
+        {strKey + L"\\@", strName},
+        {strKey + L"\\ProxyStubClsid\\", L""},
+        {strKey + L"\\ProxyStubClsid\\@", AutomationMarshaler},
+        {strKey + L"\\ProxyStubClsid32\\", L""},
+        {strKey + L"\\ProxyStubClsid32\\@", AutomationMarshaler},
+        {strKey + L"\\TypeLib\\", L""},
+        {strKey + L"\\TypeLib\\@", TypeLibrary},
+        {strKey + L"\\TypeLib\\Version", L"1.0"},
+    };
+}
+
+CRegistryDump DescribeTypeLibrary()
+{
+    const std::wstring strKey = Classes(L"TypeLib\\") + TypeLibrary;
+    const std::filesystem::path library = GetLibrary();
+    return {
+        {strKey + L"\\", L""},
+        {strKey + L"\\1.0\\", L""},
+        {strKey + L"\\1.0\\@", L"Trelvix 1.0 Type Library"},
+        {strKey + L"\\1.0\\0\\", L""},
+        {strKey + L"\\1.0\\0\\win64\\", L""},
+        {strKey + L"\\1.0\\0\\win64\\@", library.wstring()},
+        {strKey + L"\\1.0\\FLAGS\\", L""},
+        {strKey + L"\\1.0\\FLAGS\\@", L"0"},
+        {strKey + L"\\1.0\\HELPDIR\\", L""},
+        {strKey + L"\\1.0\\HELPDIR\\@", library.parent_path().wstring()},
+    };
+}
+
+/// What tells that the band may live in a process of the enhanced protected mode.
+CRegistryDump DescribeCategory()
+{
+    const std::wstring strKey = ClassKey(BandClass) + L"\\Implemented Categories\\";
+    return {{strKey, L""}, {strKey + AppContainerCompatible + L"\\", L""}};
+}
+
+CRegistryDump DescribeBandClass()
+{
+    return DescribeClass(L"Trelvix.ATLTrelvix", BandClass, L"Trelvix", L"Trelvix (Toolbar)");
+}
+
+CRegistryDump DescribeHandlerClass()
+{
+    return DescribeClass(L"Trelvix.TrelvixMSHTMLUIHandler", HandlerClass, L"TrelvixMSHTMLUIHandler Class",
+                         L"TrelvixMSHTMLUIHandler Class");
+}
+
+CRegistryDump DescribeAll()
+{
+    CRegistryDump all = {{std::wstring(ToolbarKey) + L"\\" + BandClass, EmptyBinary}};
+    for (const CRegistryDump& part : {DescribeBandClass(), DescribeCategory(), DescribeHandlerClass(),
+                                      DescribeTypeLibrary(), DescribeInterface(BandInterface, L"IATLTrelvix"),
+                                      DescribeInterface(HandlerInterface, L"ITrelvixMSHTMLUIHandler")})
+        all.insert(part.begin(), part.end());
+    return all;
+}
+
+CRegistryDump DumpMachine()
+{
+    return DumpRegistry(HKEY_LOCAL_MACHINE, Software);
+}
+
+CRegistryDump DumpPerson()
+{
+    return DumpRegistry(HKEY_CURRENT_USER, Software);
+}
+
+void WriteText(HKEY hRoot, const std::wstring& strKey, const std::wstring& strText)
+{
+    RegSetKeyValueW(hRoot, strKey.c_str(), nullptr, REG_SZ, strText.c_str(),
+                    static_cast<DWORD>((strText.size() + 1) * sizeof(wchar_t)));
+}
+
+/// Starts and ends with nothing registered. The browser's key is there from the beginning, as on a machine with a
+/// browser.
+class Registration : public testing::Test
+{
+protected:
+    Registration()
+    {
+        HKEY hKey = nullptr;
+        RegCreateKeyExW(HKEY_LOCAL_MACHINE, ToolbarKey, 0, nullptr, 0, KEY_WRITE, nullptr, &hKey, nullptr);
+        RegCloseKey(hKey);
+        Unregister();
+    }
+    ~Registration() override { Unregister(); }
+};
+} // namespace
+
+TEST_F(Registration, WritesTheClassesTheCategoryTheTypeLibraryTheToolbarValueAndNothingElse)
+{
+    const CRegistryDump machine = DumpMachine();
+    const CRegistryDump person = DumpPerson();
+    EXPECT_EQ(0u, Register());
+    EXPECT_EQ(DescribeAll(), GetAdded(machine, DumpMachine()));
+    EXPECT_THAT(GetAdded(DumpMachine(), machine), IsEmpty());
+    EXPECT_EQ(person, DumpPerson());
+}
+
+TEST_F(Registration, LeavesNothingBehindWhenItIsTakenBack)
+{
+    const CRegistryDump before = DumpMachine();
+    Register();
+    EXPECT_EQ(0u, Unregister());
+    const CRegistryDump after = DumpMachine();
+    EXPECT_THAT(GetAdded(before, after), IsEmpty());
+    EXPECT_THAT(GetAdded(after, before), IsEmpty());
+}
+
+TEST_F(Registration, SaysTheSameTheSecondTime)
+{
+    Register();
+    const CRegistryDump once = DumpMachine();
+    EXPECT_EQ(0u, Register());
+    EXPECT_EQ(once, DumpMachine());
+}
+
+TEST_F(Registration, ReplacesTheClassKeysThatStandThere)
+{
+    Register();
+    const CRegistryDump once = DumpMachine();
+    for (const wchar_t* pszClass : {BandClass, HandlerClass})
+    {
+        WriteText(HKEY_LOCAL_MACHINE, ClassKey(pszClass) + L"\\Left\\Over", L"old");
+        WriteText(HKEY_LOCAL_MACHINE, ClassKey(pszClass) + L"\\Programmable\\Left\\Over", L"old");
+        WriteText(HKEY_LOCAL_MACHINE, ClassKey(pszClass) + L"\\InprocServer32", L"old.dll");
+    }
+    Register();
+    EXPECT_EQ(once, DumpMachine());
+}
+
+TEST_F(Registration, TakesBackWhatOthersWroteBelowTheClassKeys)
+{
+    const CRegistryDump before = DumpMachine();
+    Register();
+    for (const wchar_t* pszClass : {BandClass, HandlerClass})
+        WriteText(HKEY_LOCAL_MACHINE, ClassKey(pszClass) + L"\\Left\\Over", L"old");
+    EXPECT_EQ(0u, Unregister());
+    EXPECT_THAT(GetAdded(before, DumpMachine()), IsEmpty());
+}
+
+TEST_F(Registration, LeavesTheOtherToolbarsOfTheBrowserAlone)
+{
+    const std::wstring strOther = L"{00000000-1111-2222-3333-444444444444}";
+    RegSetKeyValueW(HKEY_LOCAL_MACHINE, ToolbarKey, strOther.c_str(), REG_BINARY, nullptr, 0);
+    const CRegistryDump before = DumpRegistry(HKEY_LOCAL_MACHINE, ToolbarKey);
+    Register();
+    Unregister();
+    EXPECT_EQ(before, DumpRegistry(HKEY_LOCAL_MACHINE, ToolbarKey));
+    RegDeleteKeyValueW(HKEY_LOCAL_MACHINE, ToolbarKey, strOther.c_str());
+}
+
+TEST_F(Registration, LeavesTheSettingsInPlaceWhenItIsTakenBack)
+{
+    const std::wstring strSettings = L"Software\\Halmere Works\\Trelvix\\v5\\Options";
+    Register();
+    WriteText(HKEY_CURRENT_USER, strSettings, L"kept");
+    const CRegistryDump person = DumpPerson();
+    Unregister();
+    EXPECT_EQ(person, DumpPerson());
+    RegDeleteTreeW(HKEY_CURRENT_USER, L"Software\\Halmere Works");
+}
+
+TEST_F(Registration, CanBeTakenBackWhereItWasNeverMade)
+{
+    const CRegistryDump before = DumpMachine();
+    EXPECT_EQ(0u, Unregister());
+    EXPECT_EQ(before, DumpMachine());
+}
+
+TEST_F(Registration, MakesTheBrowsersKeyWhereItIsMissing)
+{
+    RegDeleteTreeW(HKEY_LOCAL_MACHINE, ToolbarKey);
+    Register();
+    const CRegistryDump toolbars = DumpRegistry(HKEY_LOCAL_MACHINE, ToolbarKey);
+    EXPECT_THAT(toolbars, Contains(Pair(std::wstring(ToolbarKey) + L"\\" + BandClass, EmptyBinary)));
+}

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <windows.h>
+
+#include <ostream>
+
+/// What this process holds of the system at one moment. Two counts can be compared for what was left over in between.
+struct CResourceCensus
+{
+    size_t nGdiObjects;
+    size_t nKernelHandles;
+    size_t nWindows;    ///< of all threads, children and message-only windows included
+    size_t nHeapBlocks; ///< allocated, in all heaps of the process
+
+    static CResourceCensus Take();
+
+    bool operator==(const CResourceCensus&) const = default;
+};
+
+/// For the messages of failed tests.
+std::ostream& operator<<(std::ostream& stream, const CResourceCensus& census);

@@ -1,13 +1,11 @@
 #pragma once
 
-#include "framework/Handles.h"
+#include "bench/engine/EngineProcess.h"
 
 #include <windows.h>
 
 #include <memory>
 #include <string>
-
-class CEngineProcess;
 
 /// The engine that shows the pages: a Chromium without windows of its own, driven over the DevTools protocol on
 /// loopback. One serves the whole process. Start and the destructor belong to the main thread; all else may be called
@@ -24,8 +22,8 @@ public:
     /// a person when it can't be started. The engine never outlives this process.
     bool Start(const std::wstring& program, std::wstring& error);
 
-    /// The loopback port of its protocol, 0 while it doesn't run.
-    WORD GetPort() const { return m_wPort; }
+    /// The loopback port of its protocol, 0 before it has been started.
+    WORD GetPort() const { return m_address.wPort; }
 
     /// Whether it has been started and hasn't ended since.
     bool IsRunning() const;
@@ -38,6 +36,5 @@ public:
 
 private:
     std::unique_ptr<CEngineProcess> m_process;
-    WORD m_wPort = 0;
-    std::wstring m_strBrowserPath; ///< of the engine's own connection, beside those of the pages
+    CEngineAddress m_address;
 };

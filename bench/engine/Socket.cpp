@@ -1,0 +1,76 @@
+#include "bench/engine/Socket.h"
+
+#include <winsock2.h>
+
+CSocketLibrary::CSocketLibrary()
+{
+    WSADATA data;
+    WSAStartup(MAKEWORD(2, 2), &data);
+}
+
+CSocketLibrary::~CSocketLibrary()
+{
+    WSACleanup();
+}
+
+CLoopbackSocket& CLoopbackSocket::operator=(CLoopbackSocket&& other) noexcept
+{
+    std::swap(m_socket, other.m_socket);
+    return *this;
+}
+
+std::uint16_t CLoopbackSocket::Listen()
+{
+    Close();
+    // Not inherited: a program that is started meanwhile must not hold it open.
+    m_socket =
+        WSASocketW(AF_INET, SOCK_STREAM, IPPROTO_TCP, nullptr, 0, WSA_FLAG_OVERLAPPED | WSA_FLAG_NO_HANDLE_INHERIT);
+    sockaddr_in address = {};
+    address.sin_family = AF_INET;
+    address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+    int cbAddress = sizeof address;
+    if (bind(m_socket, reinterpret_cast<sockaddr*>(&address), cbAddress) != 0 || listen(m_socket, 1) != 0 ||
+        getsockname(m_socket, reinterpret_cast<sockaddr*>(&address), &cbAddress) != 0)
+        return 0;
+    return ntohs(address.sin_port);
+}
+
+CLoopbackSocket CLoopbackSocket::Accept(unsigned nTimeoutMs) const
+{
+    return CLoopbackSocket(CanRead(nTimeoutMs) ? accept(m_socket, nullptr, nullptr) : None);
+}
+
+void CLoopbackSocket::Close()
+{
+    if (m_socket != None)
+        closesocket(std::exchange(m_socket, None));
+}
+
+void CLoopbackSocket::ShutdownSending()
+{
+    shutdown(m_socket, SD_SEND);
+}
+
+std::optional<std::string> CLoopbackSocket::ReadLine(unsigned nTimeoutMs)
+{
+    const ULONGLONG ullEnd = GetTickCount64() + nTimeoutMs;
+    std::string line;
+    for (;;)
+    {
+        const ULONGLONG ullNow = GetTickCount64();
+        char ch = 0;
+        if (ullNow > ullEnd || !CanRead(static_cast<unsigned>(ullEnd - ullNow)) || recv(m_socket, &ch, 1, 0) != 1)
+            return std::nullopt;
+        if (ch == '\n')
+            return line;
+        line += ch;
+    }
+}
+
+bool CLoopbackSocket::CanRead(unsigned nTimeoutMs) const
+{
+    fd_set readable = {};
+    FD_SET(m_socket, &readable);
+    timeval timeout = {static_cast<long>(nTimeoutMs / 1000), static_cast<long>(nTimeoutMs % 1000 * 1000)};
+    return m_socket != None && select(0, &readable, nullptr, nullptr, &timeout) == 1;
+}

@@ -24,7 +24,7 @@ public:
     CComModule();
     CComModule(const CComModule&) = delete;
     CComModule& operator=(const CComModule&) = delete;
-    ~CComModule();
+    virtual ~CComModule();
 
     static CComModule* GetModule();
 
@@ -32,8 +32,8 @@ public:
     void Init(std::span<const CComClassEntry> classes, const GUID& libid);
     void Term();
 
-    void Lock() { InterlockedIncrement(&m_nLockCount); }
-    void Unlock() { InterlockedDecrement(&m_nLockCount); }
+    virtual void Lock() { InterlockedIncrement(&m_nLockCount); }
+    virtual void Unlock() { InterlockedDecrement(&m_nLockCount); }
     LONG GetLockCount() const { return m_nLockCount; }
 
     /// The factory of a class of the table; CLASS_E_CLASSNOTAVAILABLE for any other. Clears the out pointer on failure.

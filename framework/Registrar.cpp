@@ -5,9 +5,8 @@
 #include <objbase.h>
 #include <wrl/client.h>
 
-namespace
-{
 /// The platform's registrar, in the order of its table. The toolchain's headers don't have it.
+/// In no anonymous namespace: the compiler would take it there for a class that nobody implements.
 struct IRegistrar : public IUnknown
 {
     virtual HRESULT STDMETHODCALLTYPE AddReplacement(LPCOLESTR key, LPCOLESTR item) = 0;
@@ -22,6 +21,8 @@ struct IRegistrar : public IUnknown
     virtual HRESULT STDMETHODCALLTYPE ResourceUnregister(LPCOLESTR file, UINT id, LPCOLESTR type) = 0;
 };
 
+namespace
+{
 constexpr CLSID RegistrarClass = {0x44ec053a, 0x400f, 0x11d0, {0x9d, 0xcd, 0x00, 0xa0, 0xc9, 0x03, 0x91, 0xd3}};
 constexpr IID RegistrarInterface = {0x44ec053b, 0x400f, 0x11d0, {0x9d, 0xcd, 0x00, 0xa0, 0xc9, 0x03, 0x91, 0xd3}};
 } // namespace

@@ -4,6 +4,7 @@
 #include "band/TrelvixWindow.h"
 #include "controls/XPStyleContext.h"
 #include "framework/ComBoundary.h"
+#include "framework/ComQuery.h"
 
 #include <windows.h>
 #include <comutil.h>
@@ -46,10 +47,11 @@ STDMETHODIMP CATLTrelvix::SetSite(IUnknown* pUnkSite)
 
 HRESULT CATLTrelvix::Connect(IUnknown* pUnkSite)
 {
-    if (!FindParentWindow(pUnkSite) || FAILED(pUnkSite->QueryInterface(IID_PPV_ARGS(&m_pSite))))
+    if (!FindParentWindow(pUnkSite))
         return E_FAIL;
-    ComPtr<IServiceProvider> spServices;
-    if (FAILED(pUnkSite->QueryInterface(IID_PPV_ARGS(&spServices))))
+    m_pSite = QueryFor<IInputObjectSite>(pUnkSite);
+    const auto spServices = m_pSite ? QueryFor<IServiceProvider>(pUnkSite) : nullptr;
+    if (spServices == nullptr)
         return E_FAIL;
     // Not tested, and meant so: a band is only ever sited in a browser.
     spServices->QueryService(IID_IWebBrowserApp, IID_PPV_ARGS(&m_pWebBrowser));
@@ -64,8 +66,7 @@ HRESULT CATLTrelvix::Connect(IUnknown* pUnkSite)
 bool CATLTrelvix::FindParentWindow(IUnknown* pUnkSite)
 {
     m_hWndParent = nullptr;
-    ComPtr<IOleWindow> spWindow;
-    if (SUCCEEDED(pUnkSite->QueryInterface(IID_PPV_ARGS(&spWindow))))
+    if (const auto spWindow = QueryFor<IOleWindow>(pUnkSite))
         spWindow->GetWindow(&m_hWndParent);
     return IsWindow(m_hWndParent);
 }
@@ -90,9 +91,8 @@ bool CATLTrelvix::CreateToolbarWindow()
 
 ComPtr<IConnectionPoint> CATLTrelvix::FindEventPoint() const
 {
-    ComPtr<IConnectionPointContainer> spContainer;
     ComPtr<IConnectionPoint> spPoint;
-    if (m_pWebBrowser && SUCCEEDED(m_pWebBrowser.As(&spContainer)))
+    if (const auto spContainer = QueryFor<IConnectionPointContainer>(m_pWebBrowser.Get()))
         spContainer->FindConnectionPoint(DIID_DWebBrowserEvents2, &spPoint);
     return spPoint;
 }

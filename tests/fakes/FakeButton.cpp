@@ -1,0 +1,201 @@
+#include "tests/fakes/FakeButton.h"
+
+#include "band/ButtonTable.h"
+
+#include <cstring>
+#include <new>
+#include <utility>
+
+namespace
+{
+constexpr int Poison = 0xDD;
+
+std::string ToNarrow(LPCWSTR pszText)
+{
+    const std::wstring strText = pszText ? pszText : L"(null)";
+    return std::string(strText.begin(), strText.end()); // the tests' texts are ASCII
+}
+
+std::string Join(const char* pszName, LPCWSTR pszUrl)
+{
+    return pszName + (" " + ToNarrow(pszUrl));
+}
+
+std::string Join(const char* pszName, LPCWSTR pszUrl, LPCWSTR pszFramePath)
+{
+    return Join(pszName, pszUrl) + " " + ToNarrow(pszFramePath);
+}
+} // namespace
+
+CFakeButtons& CFakeButtons::Get()
+{
+    static CFakeButtons buttons;
+    return buttons;
+}
+
+void CFakeButtons::Reset()
+{
+    for (void* pMemory : std::exchange(m_graves, {}))
+        ::operator delete(pMemory);
+    *this = CFakeButtons();
+}
+
+void CFakeButtons::Tell(int nIndex, const std::string& strCall)
+{
+    m_calls.push_back(std::to_string(nIndex) + " " + strCall);
+    if (m_onCall)
+        m_onCall(std::string(m_calls.back()));
+}
+
+CFakeButton::CFakeButton(int nIndex)
+{
+    m_nButtonId = nIndex;
+    ++CFakeButtons::Get().m_nLiving;
+    ++CFakeButtons::Get().m_nCreated;
+}
+
+CFakeButton::~CFakeButton()
+{
+    --CFakeButtons::Get().m_nLiving;
+}
+
+void* CFakeButton::operator new(std::size_t nSize)
+{
+    return ::operator new(nSize);
+}
+
+void CFakeButton::operator delete(void* pMemory, std::size_t nSize)
+{
+    std::memset(pMemory, Poison, nSize);
+    CFakeButtons::Get().m_graves.push_back(pMemory);
+}
+
+const CRuntimeClass* CFakeButton::GetRuntimeClass() const
+{
+    return GetButtonTable()[m_nButtonId];
+}
+
+bool CFakeButton::Initialize(CTrelvixWindow* pParent)
+{
+    m_bHasControl = GetTraits().bHasControl;
+    m_bFocusable = GetTraits().bFocusable;
+    m_nControlWidth = 50;
+    return CTrelvixButton::Initialize(pParent);
+}
+
+void CFakeButton::Show(bool bShow)
+{
+    CTrelvixButton::Show(bShow);
+    Tell(bShow ? "Show" : "Hide");
+}
+
+bool CFakeButton::OnCommand(UINT nCommand)
+{
+    Tell("OnCommand " + std::to_string(nCommand));
+    return true;
+}
+
+void CFakeButton::OnBrowserEvent(DISPID dispid, REFIID, LCID, WORD, DISPPARAMS*, VARIANT*, EXCEPINFO*, UINT*)
+{
+    Tell("OnBrowserEvent " + std::to_string(dispid));
+}
+
+bool CFakeButton::Place()
+{
+    Tell("Place");
+    return CTrelvixButton::Place();
+}
+
+bool CFakeButton::HasFocus()
+{
+    return GetTraits().bHasFocus;
+}
+
+bool CFakeButton::TakeFocus()
+{
+    const bool bTakesFocus = GetTraits().bTakesFocus;
+    Tell("TakeFocus");
+    return bTakesFocus;
+}
+
+HRESULT CFakeButton::TranslateKey(MSG* pMsg)
+{
+    const HRESULT hr = GetTraits().hrTranslateKey;
+    Tell("TranslateKey " + std::to_string(pMsg->wParam));
+    return hr;
+}
+
+bool CFakeButton::OnIconClick(UINT nFlags, POINT)
+{
+    const bool bTakesIconClick = GetTraits().bTakesIconClick;
+    Tell("OnIconClick " + std::to_string(nFlags));
+    return bTakesIconClick;
+}
+
+bool CFakeButton::OnDropDown(NMTOOLBARW*, int nCommand)
+{
+    Tell("OnDropDown " + std::to_string(nCommand));
+    return true;
+}
+
+bool CFakeButton::Repaint()
+{
+    Tell("Repaint");
+    return true;
+}
+
+bool CFakeButton::OnScriptError(IHTMLDocument2*, bool* pbContinueScripts, bool* pbNotHandled)
+{
+    if (GetTraits().bTakesScriptErrors)
+    {
+        *pbContinueScripts = GetTraits().bContinuesScripts;
+        *pbNotHandled = false;
+    }
+    Tell("OnScriptError");
+    return true;
+}
+
+void CFakeButton::OnPageLoadBegin(IDispatch*, LPCWSTR pszUrl)
+{
+    Tell(Join("OnPageLoadBegin", pszUrl));
+}
+
+void CFakeButton::OnPageLoadComplete(IDispatch*, LPCWSTR pszUrl)
+{
+    Tell(Join("OnPageLoadComplete", pszUrl));
+}
+
+void CFakeButton::OnFrameLoadBegin(IDispatch*, LPCWSTR pszUrl, LPCWSTR pszFramePath)
+{
+    Tell(Join("OnFrameLoadBegin", pszUrl, pszFramePath));
+}
+
+void CFakeButton::OnFrameLoadComplete(IDispatch*, LPCWSTR pszUrl)
+{
+    Tell(Join("OnFrameLoadComplete", pszUrl));
+}
+
+void CFakeButton::OnPageRefreshBegin(IDispatch*, LPCWSTR pszUrl)
+{
+    Tell(Join("OnPageRefreshBegin", pszUrl));
+}
+
+void CFakeButton::OnPageRefreshComplete()
+{
+    Tell("OnPageRefreshComplete");
+}
+
+void CFakeButton::OnFrameRefreshBegin(IDispatch*, LPCWSTR pszUrl, LPCWSTR pszFramePath)
+{
+    Tell(Join("OnFrameRefreshBegin", pszUrl, pszFramePath));
+}
+
+void CFakeButton::OnFrameRefreshComplete()
+{
+    Tell("OnFrameRefreshComplete");
+}
+
+void CFakeButton::OnSpareEvent()
+{
+    Tell("OnSpareEvent");
+}

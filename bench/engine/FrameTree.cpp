@@ -1,5 +1,6 @@
 #include "bench/engine/FrameTree.h"
 
+#include <algorithm>
 #include <utility>
 
 void CFrameTree::Reset(const std::string& topId, const std::wstring& url)
@@ -20,6 +21,11 @@ const CPageFrame* CFrameTree::Find(const std::string& id) const
 {
     const auto found = m_frames.find(id);
     return found == m_frames.end() ? nullptr : &found->second;
+}
+
+bool CFrameTree::IsLoading() const
+{
+    return std::any_of(m_frames.begin(), m_frames.end(), [](const auto& frame) { return frame.second.bDownloading; });
 }
 
 void CFrameTree::Attach(const std::string& id, const std::string& parentId)

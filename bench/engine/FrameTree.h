@@ -40,6 +40,9 @@ public:
     CPageFrame* Find(const std::string& id);
     const CPageFrame* Find(const std::string& id) const;
 
+    /// Whether any frame has a load under way.
+    bool IsLoading() const;
+
     void Attach(const std::string& id, const std::string& parentId);
 
     /// Takes the frame and all below it out of the tree and gives them back, the innermost first.

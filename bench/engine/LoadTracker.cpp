@@ -1,14 +1,11 @@
 #include "bench/engine/LoadTracker.h"
 
+#include "bench/engine/Url.h"
+
 #include <utility>
 
 namespace
 {
-bool BeginsWith(const std::wstring& text, const wchar_t* pszStart)
-{
-    return text.rfind(pszStart, 0) == 0;
-}
-
 bool IsWithinDocument(const std::string& type)
 {
     return type == "sameDocument" || type == "historySameDocument";
@@ -20,18 +17,14 @@ bool IsReload(const std::string& type)
 }
 } // namespace
 
-bool IsFetchedUrl(const std::wstring& url)
-{
-    return BeginsWith(url, L"http:") || BeginsWith(url, L"https:");
-}
-
 bool CLoadTracker::BeginOwnNavigation(const CNavigation& navigation)
 {
     if (IsFetchedUrl(navigation.strUrl))
         return true;
     if (!m_events.OnBeforeNavigate(navigation))
         return false;
-    m_ownFrameId = navigation.strFrameId;
+    if (!IsScriptUrl(navigation.strUrl))
+        m_ownFrameId = navigation.strFrameId;
     return true;
 }
 
@@ -85,16 +78,25 @@ void CLoadTracker::OnCommitted(const std::string& frameId, const std::wstring& u
         m_events.OnNavigateComplete(frameId);
 }
 
-void CLoadTracker::OnMovedWithinDocument(const std::string& frameId, const std::wstring& url)
+void CLoadTracker::OnMovedWithinDocument(const std::string& frameId, const std::wstring& url, bool bByAnchor)
 {
+    if (bByAnchor && m_frames.Find(frameId) != nullptr)
+        m_events.OnBeforeNavigate({.strFrameId = frameId, .strUrl = url});
     CPageFrame* const pFrame = m_frames.Find(frameId);
     if (pFrame == nullptr)
         return;
-    m_events.OnBeforeNavigate({.strFrameId = frameId, .strUrl = url});
-    if (CPageFrame* const pStillThere = m_frames.Find(frameId))
-        pStillThere->strUrl = url;
+    pFrame->strUrl = url;
+    if (!bByAnchor)
+        return;
     m_events.OnNavigateComplete(frameId);
     m_events.OnDocumentComplete(frameId);
+}
+
+void CLoadTracker::OnRefused(const std::string& frameId, const std::wstring& url)
+{
+    m_ownFrameId.clear();
+    m_events.OnNavigateError(frameId, url);
+    End(frameId);
 }
 
 void CLoadTracker::OnStoppedLoading(const std::string& frameId)

@@ -33,9 +33,6 @@ protected:
     ~ILoadEvents() = default;
 };
 
-/// Whether the engine fetches addresses of this kind by requests that can be stopped before they go out.
-bool IsFetchedUrl(const std::wstring& url);
-
 /// Turns what the engine tells of its frames into the browser's sequence of events.
 class CLoadTracker
 {
@@ -57,8 +54,11 @@ public:
     void OnCommitted(const std::string& frameId, const std::wstring& url, const std::wstring& name,
                      const std::wstring& unreachableUrl);
 
-    /// The frame's document went to another place in itself.
-    void OnMovedWithinDocument(const std::string& frameId, const std::wstring& url);
+    /// The frame's document went to another place in itself, or a script gave it another address.
+    void OnMovedWithinDocument(const std::string& frameId, const std::wstring& url, bool bByAnchor);
+
+    /// The engine knows no way to load the address of the browser's own navigation.
+    void OnRefused(const std::string& frameId, const std::wstring& url);
 
     void OnStoppedLoading(const std::string& frameId);
     void OnDetached(const std::string& frameId);

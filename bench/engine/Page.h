@@ -7,60 +7,72 @@
 
 #include <windows.h>
 
-#include <functional>
 #include <map>
 #include <memory>
+#include <optional>
 #include <string>
 
 class CEngine;
 class IPageView;
 
+/// What a page tells the objects over it, beside its loads.
+class IPageEvents : public ILoadEvents
+{
+public:
+    virtual void OnTitleChanged(const std::wstring& title) = 0;
+    /// A navigation of the frame turned into a file, which isn't fetched.
+    virtual void OnFileDownload(const std::string& frameId) = 0;
+    virtual void OnHistoryChanged(bool bCanGoBack, bool bCanGoForward) = 0;
+
+protected:
+    ~IPageEvents() = default;
+};
+
 /// A page of the engine with all of its frames. It belongs to the thread that opens it, which must dispatch messages;
 /// all calls to and from it are made there. A call to a page that has gone does nothing and gives an empty answer.
-/// CWebBrowser owns it; the page view reaches it through CWebBrowser::GetPage for pictures and input.
+/// CWebBrowser owns it; the window reaches it through CWebBrowser::GetPage for pictures and input.
 class CPage : private IProtocolEvents
 {
 public:
     /// `events` hears of loads, `view` of what is to be shown. Both must outlive the page.
-    CPage(ILoadEvents& events, IPageView& view);
+    CPage(IPageEvents& events, IPageView& view);
     ~CPage();
 
     /// Opens an empty page in the engine. False with one line for a person when that fails.
     bool Open(CEngine& engine, std::wstring& error);
+    /// Nothing is told afterwards. May be called from inside an event.
     void Close();
     /// Whether the page can still be spoken to.
-    bool IsOpen() const { return m_connection != nullptr && !m_bGone; }
+    bool IsOpen() const { return m_bOpen; }
 
-    /// Begins a navigation of the page; headers are lines with a line end each, both may be empty. What becomes of it
-    /// is told by events. False when a listener cancelled it.
-    bool Navigate(const std::wstring& url, const std::wstring& headers = {}, const std::string& post = {});
-    /// The same for one frame of the page.
-    bool NavigateFrame(const std::string& frameId, const std::wstring& url);
+    /// Begins a navigation. What becomes of it is told by events; false when a listener cancelled it at once.
+    bool Navigate(const CNavigation& navigation);
+    /// Begins a navigation of the top frame.
+    bool Navigate(const std::wstring& url);
     void Reload();
     void ReloadFrame(const std::string& frameId);
     void Stop();
 
-    /// The history of the page. Go does nothing when there is no such entry.
+    /// The history of the page. Nothing happens when there is no such entry.
     void GoBack() { GoInHistory(-1); }
     void GoForward() { GoInHistory(1); }
-    bool CanGoBack() const { return m_nHistoryIndex > 0; }
-    bool CanGoForward() const { return m_nHistoryIndex + 1 < m_nHistoryLength; }
 
     /// Size of the page's viewport in pixels; pictures come in this size.
     void SetSize(int cx, int cy);
-    /// Whether pictures are wanted. They come whenever the page has changed, from then on until they aren't.
+    /// Whether pictures are wanted. From then on one comes whenever the page has changed.
     void ShowPictures(bool bShow);
     /// A picture of the viewport (PNG) as it is now; empty when there is none to be had.
     std::string Capture();
 
     /// Input in pixels of the viewport. Nothing is waited for.
     void MouseEvent(EMouseEvent eEvent, POINT point, EMouseButton eButton, int nClickCount, int nModifiers);
-    /// `delta` in the units of WM_MOUSEWHEEL, 120 for a notch away from the user.
+    /// `nDelta` in the units of WM_MOUSEWHEEL, 120 for a notch away from the user.
     void Wheel(POINT point, int nDelta, int nModifiers);
-    void KeyDown(UINT vk, UINT nScanCode, int nModifiers);
-    void KeyUp(UINT vk, UINT nScanCode, int nModifiers);
+    void KeyDown(UINT nVirtualKey, UINT nScanCode, int nModifiers);
+    void KeyUp(UINT nVirtualKey, UINT nScanCode, int nModifiers);
+    /// The character of WM_CHAR.
     void Char(wchar_t ch, int nModifiers);
-    /// Gives the page the keyboard or takes it away.
+    /// Tells the page whether it has the keyboard.
     void SetFocus(bool bFocus);
 
     const CFrameTree& GetFrames() const { return m_frames; }
@@ -73,13 +85,15 @@ public:
 
     /// The protocol itself, for what is built over the page; none when the page has gone or the call failed.
     std::optional<Json> Call(const char* pszMethod, Json params = Json::object());
+    void Post(const char* pszMethod, Json params = Json::object(), CConnection::Reply reply = nullptr);
 
 private:
-    using Handler = void (CPage::*)(const Json& params);
-
     void OnProtocolEvent(const std::string& method, const Json& params) override;
     bool IsUrgent(const std::string& method) const override;
     void OnProtocolClosed() override;
+
+    using Handler = void (CPage::*)(const Json& params);
+    static const std::map<std::string, Handler>& GetHandlers();
 
     void OnFrameAttached(const Json& params);
     void OnFrameDetached(const Json& params);
@@ -88,35 +102,47 @@ private:
     void OnFrameStoppedLoading(const Json& params);
     void OnNavigatedWithinDocument(const Json& params);
     void OnRequestPaused(const Json& params);
+    void OnDownloadWillBegin(const Json& params);
     void OnContextCreated(const Json& params);
     void OnContextDestroyed(const Json& params);
     void OnContextsCleared(const Json& params);
+    void OnDomContentEvent(const Json& params);
     void OnDialogOpening(const Json& params);
     void OnWindowOpen(const Json& params);
+    void OnAttachedToTarget(const Json& params);
     void OnScreencastFrame(const Json& params);
-    void OnTargetInfoChanged(const Json& params);
     void OnTargetCrashed(const Json& params);
 
-    bool BeginEvents(std::wstring& error);
+    bool Prepare();
+    void Go(const CNavigation& navigation);
+    void OnNavigateReply(const CNavigation& navigation, const std::optional<Json>& result);
+    CNavigation MakeNavigation(const Json& pausedRequest);
+    void LetRequestGo(const Json& pausedRequest, const CNavigation& navigation);
+    void RunScriptAddress(const CNavigation& navigation);
     void GoInHistory(int nSteps);
     void UpdateHistory();
+    void OnTopShown(const std::wstring& url);
     void UpdateTitle();
     void UpdateLoading();
+    void StartPictures();
     void End(const std::wstring& reason);
 
-    ILoadEvents& m_events;
+    IPageEvents& m_events;
     IPageView& m_view;
     CEngine* m_pEngine = nullptr; ///< outlives the page
     std::string m_targetId;
-    std::unique_ptr<CConnection> m_connection;
+    std::unique_ptr<CConnection> m_connection; ///< stays until the page goes, since it may be in a call of its own
+    bool m_bOpen = false;
+
     CFrameTree m_frames;
     CLoadTracker m_tracker;
     std::map<std::string, int> m_contexts; ///< the scripts' context of each frame's document
+    CNavigation m_ownNavigation;           ///< the last one that was asked for with headers or post data
     std::wstring m_strTitle;
-    int m_nHistoryIndex = 0;
-    int m_nHistoryLength = 0;
+    bool m_bLoading = false;
+    bool m_bFirstAddress = true;
+
     SIZE m_size = {};
     bool m_bPictures = false;
-    bool m_bLoading = false;
-    bool m_bGone = false;
+    int m_nButtons = 0; ///< mouse buttons that are down, as the protocol counts them
 };

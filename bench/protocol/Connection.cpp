@@ -12,6 +12,12 @@ bool IsEvent(const Json& message)
     return message.contains("method");
 }
 
+std::optional<Json> GetResult(const Json& answer)
+{
+    const auto result = answer.find("result");
+    return result == answer.end() ? std::nullopt : std::optional(*result);
+}
+
 bool IsAny(const Json&)
 {
     return true;
@@ -88,10 +94,7 @@ std::optional<Json> CConnection::Call(const char* pszMethod, Json params)
     m_waiting.erase(nId);
     if (!bAnswered)
         return std::nullopt;
-    const Json answer = std::move(m_answers.extract(nId).mapped());
-    if (!answer.contains("result"))
-        return std::nullopt;
-    return answer["result"];
+    return GetResult(m_answers.extract(nId).mapped());
 }
 
 bool CConnection::WaitForReply(int nId)
@@ -131,14 +134,19 @@ void CConnection::HandleUrgent()
         return IsEvent(message) && m_events.IsUrgent(GetNarrowText(message, "method"));
     };
     // What came before an urgent event is handled before it, so that no event overtakes another.
-    while (m_queue.Holds(isUrgent))
-        if (const auto message = m_queue.Take(IsAny))
+    while (!m_bClosedTold && m_queue.Holds(isUrgent))
+        if (const auto message = TakeNext())
             Handle(*message);
+}
+
+std::optional<Json> CConnection::TakeNext()
+{
+    return m_bClosedTold ? std::nullopt : m_queue.Take(IsAny);
 }
 
 LRESULT CConnection::OnArrival(WPARAM, LPARAM)
 {
-    while (const auto message = m_queue.Take(IsAny))
+    while (const auto message = TakeNext())
         Handle(*message);
     if (m_queue.HasEnded() && !std::exchange(m_bClosedTold, true))
     {
@@ -164,7 +172,6 @@ void CConnection::HandleReply(const Json& message)
         m_answers[nId] = message;
         return;
     }
-    const auto waiting = m_replies.extract(nId);
-    if (waiting && message.contains("result"))
-        waiting.mapped()(message["result"]);
+    if (const auto waiting = m_replies.extract(nId))
+        waiting.mapped()(GetResult(message));
 }

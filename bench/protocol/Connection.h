@@ -33,7 +33,8 @@ protected:
 class CConnection : public CWnd
 {
 public:
-    using Reply = std::function<void(const Json& result)>;
+    /// Takes the result of a call, none when the engine answered an error.
+    using Reply = std::function<void(const std::optional<Json>& result)>;
 
     /// The sink must outlive the connection.
     explicit CConnection(IProtocolEvents& events) : m_events(events) {}
@@ -42,14 +43,15 @@ public:
     /// Connects to the path of a target on the engine's port.
     bool Open(WORD wPort, const std::wstring& path);
 
-    /// Ends the connection and waits for its thread. Calls under way end without an answer.
+    /// Ends the connection and waits for its thread. Calls under way end without an answer, and nothing more is told.
+    /// May be called from inside an event.
     void Close();
 
     /// Calls a method and waits for its result. Meanwhile sent window messages and urgent events are handled, and
     /// nothing else. None when the engine answers an error, has gone or doesn't answer in time.
     std::optional<Json> Call(const char* pszMethod, Json params = Json::object());
 
-    /// Calls a method without waiting. The reply, when one is wanted, comes only if the call succeeds.
+    /// Calls a method without waiting. No reply comes when the engine has gone meanwhile.
     void Post(const char* pszMethod, Json params = Json::object(), Reply reply = nullptr);
 
     /// Ends all waiting calls: the target will never answer them.
@@ -65,6 +67,7 @@ private:
     bool WaitForReply(int nId);
     bool WaitForArrival(ULONGLONG ullEnd);
     void HandleUrgent();
+    std::optional<Json> TakeNext();
     void Handle(const Json& message);
     void HandleReply(const Json& message);
 

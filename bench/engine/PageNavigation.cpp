@@ -1,0 +1,123 @@
+#include "bench/engine/Page.h"
+#include "bench/engine/PageView.h"
+#include "bench/engine/Url.h"
+#include "bench/protocol/Base64.h"
+
+bool CPage::Navigate(const std::wstring& url)
+{
+    return Navigate({.strFrameId = GetTopFrameId(), .strUrl = url});
+}
+
+bool CPage::Navigate(const CNavigation& navigation)
+{
+    if (!m_bOpen)
+        return false;
+    CNavigation complete = navigation;
+    complete.strUrl = CompleteUrl(navigation.strUrl);
+    if (!m_tracker.BeginOwnNavigation(complete))
+        return false;
+    if (IsScriptUrl(complete.strUrl))
+        RunScriptAddress(complete);
+    else
+        Go(complete);
+    return true;
+}
+
+void CPage::Go(const CNavigation& navigation)
+{
+    m_ownNavigation = navigation;
+    Json params = {{"url", ToUtf8(navigation.strUrl)}};
+    if (!m_frames.IsTop(navigation.strFrameId))
+        params["frameId"] = navigation.strFrameId;
+    Post("Page.navigate", std::move(params),
+         [this, navigation](const std::optional<Json>& result) { OnNavigateReply(navigation, result); });
+}
+
+void CPage::OnNavigateReply(const CNavigation& navigation, const std::optional<Json>& result)
+{
+    // An address that the engine doesn't know how to load is told by nothing else.
+    const std::string error = result ? GetNarrowText(*result, "errorText") : "net::ERR_INVALID_URL";
+    if (error == "net::ERR_INVALID_URL" || error == "net::ERR_UNKNOWN_URL_SCHEME")
+        m_tracker.OnRefused(navigation.strFrameId, navigation.strUrl);
+    if (!error.empty() && error != "net::ERR_ABORTED")
+        m_view.OnStatusText(L"Can't reach " + navigation.strUrl + L" (" + FromUtf8(error) + L")");
+}
+
+void CPage::RunScriptAddress(const CNavigation& navigation)
+{
+    const auto context = m_contexts.find(navigation.strFrameId);
+    if (context == m_contexts.end())
+        return;
+    Post("Runtime.evaluate",
+         {{"expression", ToUtf8(GetScriptOfUrl(navigation.strUrl))}, {"contextId", context->second}});
+}
+
+CNavigation CPage::MakeNavigation(const Json& pausedRequest)
+{
+    const Json& request = GetObjectMember(pausedRequest, "request");
+    CNavigation navigation = {.strFrameId = GetNarrowText(pausedRequest, "frameId"),
+                              .strUrl = GetText(request, "url") + GetText(request, "urlFragment"),
+                              .strPostData = GetNarrowText(request, "postData")};
+    const CNavigation own = std::exchange(m_ownNavigation, {});
+    if (own.strFrameId == navigation.strFrameId)
+    {
+        navigation.strHeaders = own.strHeaders;
+        navigation.strPostData += own.strPostData;
+    }
+    return navigation;
+}
+
+void CPage::LetRequestGo(const Json& pausedRequest, const CNavigation& navigation)
+{
+    const Json& request = GetObjectMember(pausedRequest, "request");
+    Json params = {{"requestId", GetNarrowText(pausedRequest, "requestId")}};
+    if (!navigation.strHeaders.empty())
+        params["headers"] = JoinHeaders(GetObjectMember(request, "headers"), navigation.strHeaders);
+    if (!navigation.strPostData.empty() && GetNarrowText(request, "method") == "GET")
+    {
+        params["method"] = "POST";
+        params["postData"] = ToBase64(navigation.strPostData);
+    }
+    Post("Fetch.continueRequest", std::move(params));
+}
+
+void CPage::Reload()
+{
+    Post("Page.reload");
+}
+
+void CPage::ReloadFrame(const std::string& frameId)
+{
+    if (m_frames.IsTop(frameId))
+        return Reload();
+    const auto context = m_contexts.find(frameId);
+    if (context != m_contexts.end())
+        Post("Runtime.evaluate", {{"expression", "location.reload()"}, {"contextId", context->second}});
+}
+
+void CPage::Stop()
+{
+    Post("Page.stopLoading");
+}
+
+void CPage::GoInHistory(int nSteps)
+{
+    Post("Page.getNavigationHistory", Json::object(), [this, nSteps](const std::optional<Json>& history) {
+        if (!history)
+            return;
+        const int nIndex = GetNumber(*history, "currentIndex", 0) + nSteps;
+        const Json& entries = (*history)["entries"];
+        if (nIndex >= 0 && nIndex < static_cast<int>(entries.size()))
+            Post("Page.navigateToHistoryEntry", {{"entryId", entries[nIndex]["id"]}});
+    });
+}
+
+void CPage::UpdateHistory()
+{
+    Post("Page.getNavigationHistory", Json::object(), [this](const std::optional<Json>& history) {
+        if (!history)
+            return;
+        const int nIndex = GetNumber(*history, "currentIndex", 0);
+        m_events.OnHistoryChanged(nIndex > 0, nIndex + 1 < static_cast<int>((*history)["entries"].size()));
+    });
+}

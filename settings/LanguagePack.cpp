@@ -13,7 +13,6 @@
 
 namespace
 {
-constexpr WORD PrimaryLanguageMask = 0x3FF;
 constexpr UINT PackOpenFlags = CFile::modeRead | CFile::shareDenyWrite | CFile::typeText;
 constexpr UINT SubmenuId = static_cast<UINT>(-1);
 constexpr UINT NoSuchItem = static_cast<UINT>(-1);
@@ -119,7 +118,7 @@ void InitLanguage(const std::wstring& folder, std::uint16_t language)
     if (languageUsers.fetch_add(1) != 0 || translationMap)
         return;
     translationMap = std::make_unique<CTranslationMap>();
-    requestedLanguage = language != 0 ? language : GetUserDefaultLangID() & PrimaryLanguageMask;
+    requestedLanguage = ResolveLanguage(language, GetUserDefaultLangID());
     const LanguageRow* row = FindLanguage(requestedLanguage);
     if (row == nullptr || LoadPack(InInstallFolder(row->file)) || LoadPack(row->file))
         activeLanguage = requestedLanguage;

@@ -5,6 +5,8 @@
 
 namespace
 {
+constexpr std::uint16_t PrimaryLanguageMask = 0x3FF;
+
 // The first row of a language counts, so 0x1A always means Croatian.
 const LanguageRow languageTable[] = {
     {0x36, L"Languages\\AFRIKAANS.lang"},
@@ -78,4 +80,9 @@ const LanguageRow* FindLanguage(std::uint16_t language)
     const auto* row = std::find_if(std::begin(languageTable), std::end(languageTable),
                                    [=](const LanguageRow& candidate) { return candidate.language == language; });
     return row == std::end(languageTable) ? nullptr : row;
+}
+
+std::uint16_t ResolveLanguage(std::uint16_t choice, std::uint16_t userLanguage)
+{
+    return choice != 0 ? choice : userLanguage & PrimaryLanguageMask;
 }

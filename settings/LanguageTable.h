@@ -15,3 +15,6 @@ const LanguageRow* GetLastLanguage();
 
 /// The first row of exactly this language, or null.
 const LanguageRow* FindLanguage(std::uint16_t language);
+
+/// The language that a choice of the user means: itself, or for 0 the user's language without its variant.
+std::uint16_t ResolveLanguage(std::uint16_t choice, std::uint16_t userLanguage);

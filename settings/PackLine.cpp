@@ -1,15 +1,12 @@
 #include "settings/PackLine.h"
 
+#include "framework/ReplaceAll.h"
 #include "settings/LeadingNumber.h"
+
+#include <utility>
 
 namespace
 {
-void ReplaceAll(std::wstring& text, std::wstring_view written, std::wstring_view meant)
-{
-    for (auto found = text.find(written); found != text.npos; found = text.find(written, found + meant.size()))
-        text.replace(found, written.size(), meant);
-}
-
 std::wstring_view WithoutLeading(std::wstring_view text, const wchar_t* characters)
 {
     const auto start = text.find_first_not_of(characters);
@@ -31,16 +28,12 @@ std::optional<PackEntry> ParsePackLine(std::wstring_view line)
 
 std::wstring UnescapePackText(std::wstring_view text)
 {
-    std::wstring shown(text);
-    ReplaceAll(shown, L"\\r\\n", L"\r\n");
-    ReplaceAll(shown, L"\\n", L"\n");
-    ReplaceAll(shown, L"\\t", L"\t");
-    return shown;
+    std::wstring shown = ReplaceAll(std::wstring(text), L"\\r\\n", L"\r\n");
+    shown = ReplaceAll(std::move(shown), L"\\n", L"\n");
+    return ReplaceAll(std::move(shown), L"\\t", L"\t");
 }
 
 std::wstring UnescapeSingleText(std::wstring_view text)
 {
-    std::wstring shown(text);
-    ReplaceAll(shown, L"\\n\\r", L"\n\r");
-    return shown;
+    return ReplaceAll(std::wstring(text), L"\\n\\r", L"\n\r");
 }

@@ -5,10 +5,12 @@
 #include <windows.h>
 #include <exdisp.h>
 
+#include <functional>
 #include <string>
 
 class CPage;
 class CWebBrowser;
+struct CNavigation;
 struct CPageFrame;
 
 /// What the browser of a page and the browsers of its frames have in common: IWebBrowser2 over one frame. Once the
@@ -42,4 +44,8 @@ protected:
 private:
     CPage* GetPage();
     const CPageFrame* GetFrame();
+    HRESULT Go(CNavigation navigation, long nFlags, const std::wstring& target);
+
+    /// Does something with the page; RPC_E_DISCONNECTED when the frame has gone. No exception leaves it.
+    HRESULT WithPage(const std::function<HRESULT(CPage& page)>& body);
 };

@@ -3,7 +3,7 @@
 #include "bench/com/BrowserBase.h"
 #include "bench/com/CountedObject.h"
 #include "bench/com/EventSource.h"
-#include "bench/engine/LoadTracker.h"
+#include "bench/engine/Page.h"
 
 #include <windows.h>
 #include <comutil.h>
@@ -13,12 +13,11 @@
 #include <wrl/client.h>
 
 #include <map>
-#include <memory>
 #include <string>
 
+class CDocument;
 class CEngine;
 class CFrameBrowser;
-class CPage;
 class IBrowserWindow;
 class IPageView;
 
@@ -29,7 +28,7 @@ class IPageView;
 /// The window calls Close when it goes down and keeps its reference until its message loop has ended; others may hold
 /// theirs longer, and are answered with errors.
 class CWebBrowser : public CCountedObject<CWebBrowser, CBrowserBase, IConnectionPointContainer, IServiceProvider>,
-                    private ILoadEvents
+                    private IPageEvents
 {
     BEGIN_COM_MAP(CWebBrowser)
         COM_INTERFACE_ENTRY(IWebBrowser2)
@@ -53,7 +52,7 @@ public:
     void Close();
 
     /// The page for pictures and input; it stays for as long as this object.
-    CPage& GetPage() { return *m_page; }
+    CPage& GetPage() { return m_page; }
 
     /// The view's answer to "WM_HTML_GETOBJECT": the document on show, 0 when there is none.
     LRESULT GetHtmlObject(WPARAM wParam);
@@ -62,7 +61,8 @@ public:
     IBrowserWindow* GetWindow() const { return m_pWindow; }
     /// The browser object of a frame, this one for the top; null when there is no such frame.
     Microsoft::WRL::ComPtr<IWebBrowser2> GetFrameBrowser(const std::string& frameId);
-    /// The document of a frame, the same object as long as the frame shows it.
+    /// The document of a frame, the same object as long as the frame shows it. E_ACCESSDENIED when the top document may
+    /// not look into it.
     HRESULT GetDocument(const std::string& frameId, IDispatch** ppDocument);
 
     STDMETHODIMP GoBack() override;
@@ -93,10 +93,19 @@ private:
     void OnDocumentComplete(const std::string& frameId) override;
     void OnNavigateError(const std::string& frameId, const std::wstring& url) override;
     void OnFrameGone(const std::string& frameId) override;
+    void OnTitleChanged(const std::wstring& title) override;
+    void OnFileDownload(const std::string& frameId) override;
+    void OnHistoryChanged() override;
+
+    Microsoft::WRL::ComPtr<CDocument> GetDocumentObject(const CPageFrame& frame);
+
+    /// An event whose arguments are the frame's browser and its address.
+    void FireOfFrame(DISPID dispid, const std::string& frameId);
 
     IBrowserWindow* m_pWindow;
-    std::unique_ptr<CPage> m_page;
+    CPage m_page;
     Microsoft::WRL::ComPtr<CEventSource> m_spEvents;
-    std::map<std::string, Microsoft::WRL::ComPtr<CFrameBrowser>> m_frames;
+    std::map<std::string, Microsoft::WRL::ComPtr<CFrameBrowser>> m_frames; ///< below the top, by the engine's names
+    std::map<std::string, Microsoft::WRL::ComPtr<CDocument>> m_documents;  ///< those on show that were asked for
     std::map<std::wstring, _variant_t> m_properties;
 };

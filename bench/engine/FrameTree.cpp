@@ -23,6 +23,20 @@ const CPageFrame* CFrameTree::Find(const std::string& id) const
     return found == m_frames.end() ? nullptr : &found->second;
 }
 
+const CPageFrame* CFrameTree::FindTarget(const std::string& id, const std::wstring& name) const
+{
+    const CPageFrame* const pFrame = Find(id);
+    if (pFrame == nullptr || name.empty() || name == L"_self")
+        return pFrame;
+    if (name == L"_top")
+        return Find(m_topId);
+    if (name == L"_parent")
+        return Find(pFrame->strParentId.empty() ? id : pFrame->strParentId);
+    const auto found =
+        std::find_if(m_frames.begin(), m_frames.end(), [&](const auto& frame) { return frame.second.strName == name; });
+    return found == m_frames.end() ? nullptr : &found->second;
+}
+
 bool CFrameTree::IsLoading() const
 {
     return std::any_of(m_frames.begin(), m_frames.end(), [](const auto& frame) { return frame.second.bDownloading; });

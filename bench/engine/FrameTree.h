@@ -21,6 +21,8 @@ struct CPageFrame
     std::vector<std::string> children; ///< in the order in which they were attached
 
     ELoadState eState = ELoadState::Complete;
+    int nDocument = 0; ///< counts the documents that the frame has shown
+
     bool bReload = false;      ///< the load under way fetches the same document again
     bool bDownloading = false; ///< a begin was told that has no end yet
     bool bCommitted = false;   ///< the load under way has brought its document
@@ -39,6 +41,10 @@ public:
     /// Null when there is no such frame. Valid until the frame is detached.
     CPageFrame* Find(const std::string& id);
     const CPageFrame* Find(const std::string& id) const;
+
+    /// The frame that a navigation in `id` is aimed at by name, or by one of the names that every page knows; null when
+    /// it is a new window.
+    const CPageFrame* FindTarget(const std::string& id, const std::wstring& name) const;
 
     /// Whether any frame has a load under way.
     bool IsLoading() const;

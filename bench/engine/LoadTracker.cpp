@@ -66,6 +66,7 @@ void CLoadTracker::OnCommitted(const std::string& frameId, const std::wstring& u
         return;
     for (const std::string& childId : std::vector(pFrame->children))
         OnDetached(childId);
+    ++pFrame->nDocument;
     pFrame->strUrl = unreachableUrl.empty() ? url : unreachableUrl;
     pFrame->strName = name;
     pFrame->bCommitted = true;

@@ -1,6 +1,7 @@
 #include "bench/engine/Page.h"
 
 #include "bench/engine/Engine.h"
+#include "bench/engine/PageScript.h"
 #include "bench/engine/PageView.h"
 #include "bench/protocol/Base64.h"
 
@@ -42,6 +43,8 @@ bool CPage::Prepare()
     Post("Inspector.enable");
     Post("Emulation.setFocusEmulationEnabled", {{"enabled", true}});
     Post("Browser.setDownloadBehavior", {{"behavior", "deny"}});
+    Post("Page.addScriptToEvaluateOnNewDocument",
+         {{"source", PageScript}, {"worldName", WorldName}, {"runImmediately", true}});
     // New windows stop before they fetch anything.
     Post("Target.setAutoAttach",
          {{"autoAttach", true}, {"waitForDebuggerOnStart", true}, {"flatten", true}, {"filter", onlyPages}});
@@ -75,19 +78,6 @@ void CPage::Post(const char* pszMethod, Json params, CConnection::Reply reply)
 {
     if (m_bOpen)
         m_connection->Post(pszMethod, std::move(params), std::move(reply));
-}
-
-Json CPage::Evaluate(const std::string& frameId, const std::wstring& expression)
-{
-    const auto context = m_contexts.find(frameId);
-    if (context == m_contexts.end())
-        return nullptr;
-    const auto result =
-        Call("Runtime.evaluate",
-             {{"expression", ToUtf8(expression)}, {"contextId", context->second}, {"returnByValue", true}});
-    if (!result || result->contains("exceptionDetails"))
-        return nullptr;
-    return GetObjectMember(*result, "result").value("value", Json());
 }
 
 std::string CPage::Capture()

@@ -22,7 +22,8 @@ public:
     virtual void OnTitleChanged(const std::wstring& title) = 0;
     /// A navigation of the frame turned into a file, which isn't fetched.
     virtual void OnFileDownload(const std::string& frameId) = 0;
-    virtual void OnHistoryChanged(bool bCanGoBack, bool bCanGoForward) = 0;
+    /// Where the page can go back and forward to may have changed.
+    virtual void OnHistoryChanged() = 0;
 
 protected:
     ~IPageEvents() = default;
@@ -56,6 +57,8 @@ public:
     /// The history of the page. Nothing happens when there is no such entry.
     void GoBack() { GoInHistory(-1); }
     void GoForward() { GoInHistory(1); }
+    bool CanGoBack() const { return m_nHistoryIndex > 0; }
+    bool CanGoForward() const { return m_nHistoryIndex + 1 < m_nHistoryLength; }
 
     /// Size of the page's viewport in pixels; pictures come in this size.
     void SetSize(int cx, int cy);
@@ -83,6 +86,12 @@ public:
     /// The value of a script expression in the frame's document; null when it failed or the frame has gone.
     Json Evaluate(const std::string& frameId, const std::wstring& expression);
 
+    /// Asks the frame's document by a function of page.js; none when the frame has gone or the function failed.
+    std::optional<Json> Ask(const std::string& frameId, const char* pszFunction, Json arguments = Json::array());
+
+    /// The frame that an element shows, an element by page.js of the frame's document; empty when it shows none.
+    std::string GetFrameOfElement(const std::string& frameId, int nElement);
+
     /// The protocol itself, for what is built over the page; none when the page has gone or the call failed.
     std::optional<Json> Call(const char* pszMethod, Json params = Json::object());
     void Post(const char* pszMethod, Json params = Json::object(), CConnection::Reply reply = nullptr);
@@ -91,6 +100,8 @@ private:
     void OnProtocolEvent(const std::string& method, const Json& params) override;
     bool IsUrgent(const std::string& method) const override;
     void OnProtocolClosed() override;
+
+    static constexpr char WorldName[] = "bench"; ///< of page.js in each document
 
     using Handler = void (CPage::*)(const Json& params);
     static const std::map<std::string, Handler>& GetHandlers();
@@ -114,13 +125,13 @@ private:
     void OnTargetCrashed(const Json& params);
 
     bool Prepare();
+    std::optional<Json> CallScript(const std::string& frameId, const char* pszFunction, Json arguments, bool bByValue);
     void Go(const CNavigation& navigation);
     void OnNavigateReply(const CNavigation& navigation, const std::optional<Json>& result);
     CNavigation MakeNavigation(const Json& pausedRequest);
     void LetRequestGo(const Json& pausedRequest, const CNavigation& navigation);
     void RunScriptAddress(const CNavigation& navigation);
     void GoInHistory(int nSteps);
-    void UpdateHistory();
     void OnTopShown(const std::wstring& url);
     void UpdateTitle();
     void UpdateLoading();
@@ -137,8 +148,11 @@ private:
     CFrameTree m_frames;
     CLoadTracker m_tracker;
     std::map<std::string, int> m_contexts; ///< the scripts' context of each frame's document
+    std::map<std::string, int> m_worlds;   ///< the context of page.js
     CNavigation m_ownNavigation;           ///< the last one that was asked for with headers or post data
     std::wstring m_strTitle;
+    int m_nHistoryIndex = 0;
+    int m_nHistoryLength = 0;
     bool m_bLoading = false;
     bool m_bFirstAddress = true;
 

@@ -74,15 +74,6 @@ void CPage::OnFrameNavigated(const Json& params)
         OnTopShown(m_frames.Find(id)->strUrl);
 }
 
-void CPage::OnTopShown(const std::wstring& url)
-{
-    m_view.OnAddressChanged(url);
-    // The empty page that every window begins with is no place to go back to.
-    if (std::exchange(m_bFirstAddress, false))
-        Post("Page.resetNavigationHistory");
-    UpdateHistory();
-}
-
 void CPage::OnFrameStartedNavigating(const Json& params)
 {
     m_tracker.OnStartedNavigating(GetNarrowText(params, "frameId"), GetText(params, "url"),
@@ -128,19 +119,26 @@ void CPage::OnContextCreated(const Json& params)
 {
     const Json& context = GetObjectMember(params, "context");
     const Json& about = GetObjectMember(context, "auxData");
+    const int nId = GetNumber(context, "id", 0);
     if (GetFlag(about, "isDefault"))
-        m_contexts[GetNarrowText(about, "frameId")] = GetNumber(context, "id", 0);
+        m_contexts[GetNarrowText(about, "frameId")] = nId;
+    else if (GetNarrowText(context, "name") == WorldName)
+        m_worlds[GetNarrowText(about, "frameId")] = nId;
 }
 
 void CPage::OnContextDestroyed(const Json& params)
 {
-    const int nId = GetNumber(params, "executionContextId", 0);
-    std::erase_if(m_contexts, [=](const auto& context) { return context.second == nId; });
+    const auto isIt = [nId = GetNumber(params, "executionContextId", 0)](const auto& context) {
+        return context.second == nId;
+    };
+    std::erase_if(m_contexts, isIt);
+    std::erase_if(m_worlds, isIt);
 }
 
 void CPage::OnContextsCleared(const Json&)
 {
     m_contexts.clear();
+    m_worlds.clear();
 }
 
 void CPage::OnDomContentEvent(const Json&)

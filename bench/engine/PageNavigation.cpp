@@ -3,6 +3,8 @@
 #include "bench/engine/Url.h"
 #include "bench/protocol/Base64.h"
 
+#include <utility>
+
 bool CPage::Navigate(const std::wstring& url)
 {
     return Navigate({.strFrameId = GetTopFrameId(), .strUrl = url});
@@ -112,12 +114,15 @@ void CPage::GoInHistory(int nSteps)
     });
 }
 
-void CPage::UpdateHistory()
+void CPage::OnTopShown(const std::wstring& url)
 {
-    Post("Page.getNavigationHistory", Json::object(), [this](const std::optional<Json>& history) {
-        if (!history)
-            return;
-        const int nIndex = GetNumber(*history, "currentIndex", 0);
-        m_events.OnHistoryChanged(nIndex > 0, nIndex + 1 < static_cast<int>((*history)["entries"].size()));
+    // The empty page that every window begins with is no place to go back to.
+    if (std::exchange(m_bFirstAddress, false))
+        Post("Page.resetNavigationHistory");
+    Post("Page.getNavigationHistory", Json::object(), [this, url](const std::optional<Json>& history) {
+        m_nHistoryIndex = history ? GetNumber(*history, "currentIndex", 0) : 0;
+        m_nHistoryLength = history ? static_cast<int>((*history)["entries"].size()) : 0;
+        m_events.OnHistoryChanged();
+        m_view.OnAddressChanged(url);
     });
 }

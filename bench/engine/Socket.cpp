@@ -29,7 +29,7 @@ std::uint16_t CLoopbackSocket::Listen()
     address.sin_family = AF_INET;
     address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
     int cbAddress = sizeof address;
-    if (bind(m_socket, reinterpret_cast<sockaddr*>(&address), cbAddress) != 0 || listen(m_socket, 1) != 0 ||
+    if (bind(m_socket, reinterpret_cast<sockaddr*>(&address), cbAddress) != 0 || listen(m_socket, SOMAXCONN) != 0 ||
         getsockname(m_socket, reinterpret_cast<sockaddr*>(&address), &cbAddress) != 0)
         return 0;
     return ntohs(address.sin_port);
@@ -49,6 +49,19 @@ void CLoopbackSocket::Close()
 void CLoopbackSocket::ShutdownSending()
 {
     shutdown(m_socket, SD_SEND);
+}
+
+bool CLoopbackSocket::Send(const std::string& bytes)
+{
+    size_t nSent = 0;
+    while (nSent < bytes.size())
+    {
+        const int nChunk = send(m_socket, bytes.data() + nSent, static_cast<int>(bytes.size() - nSent), 0);
+        if (nChunk <= 0)
+            return false;
+        nSent += nChunk;
+    }
+    return true;
 }
 
 std::optional<std::string> CLoopbackSocket::ReadLine(unsigned nTimeoutMs)

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Makes toolbar.bmp, the strip of the toolbar's pictures, from toolbar/NUMBER-NAME.svg.
+"""make_strip.py BITMAP NUMBER-NAME.svg...: makes the strip of the toolbar's pictures from their drawings.
 
 A picture's number is its place in the strip. White is the mask: what a picture leaves out becomes white, and its own white
 the lightest grey. Pixels at its edge are either its own or the mask's, since a blend of both would show as a fringe.
@@ -10,8 +10,8 @@ Needs rsvg-convert and ImageMagick.
 import pathlib
 import struct
 import subprocess
+import sys
 
-FOLDER = pathlib.Path(__file__).resolve().parent
 CELL = 16
 WIDTH = 975
 MASK = (255, 255, 255)
@@ -52,8 +52,9 @@ def bitmap_file(rows):
 
 
 def main():
-    pictures = sorted((FOLDER / "toolbar").glob("*.svg"))
-    (FOLDER / "toolbar.bmp").write_bytes(bitmap_file(strip_of(pictures)))
+    bitmap, *pictures = map(pathlib.Path, sys.argv[1:])
+    bitmap.parent.mkdir(parents=True, exist_ok=True)
+    bitmap.write_bytes(bitmap_file(strip_of(pictures)))
 
 
 if __name__ == "__main__":

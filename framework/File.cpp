@@ -43,7 +43,7 @@ DWORD GetCreation(UINT nOpenFlags)
 
 bool CFile::Open(const std::wstring& fileName, UINT nOpenFlags, CFileException* pError)
 {
-    CFile::Close();
+    Close();
     m_strFileName = fileName;
     const HANDLE hFile = CreateFileW(fileName.c_str(), GetAccess(nOpenFlags), GetSharing(nOpenFlags), nullptr,
                                      GetCreation(nOpenFlags), FILE_ATTRIBUTE_NORMAL, nullptr);

@@ -122,7 +122,8 @@ private:
     void FocusSearchBox();
     void ShowInfoBar();
     void HandlePseudoUrl(DISPPARAMS* pDispParams);
-    bool AttachUIHandler(IDispatch* pDocument);
+    /// Gives the handler the document's site and this window; false when there is no site that can do both.
+    bool PrepareUIHandler(ITrelvixMSHTMLUIHandler& handler, IDispatch* pDocument);
 
     /// The item at a position of the layout if it is visible, else null.
     CTrelvixButton* GetLayoutButton(int nPosition) const;

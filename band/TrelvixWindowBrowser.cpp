@@ -1,6 +1,7 @@
 #include "band/ATLTrelvix.h"
 #include "band/InfoBarHelper.h"
 #include "band/TrelvixWindow.h"
+#include "framework/ComQuery.h"
 #include "framework/HostVersion.h"
 #include "resources/Trelvix.h"
 
@@ -23,11 +24,18 @@ _variant_t GetBrowserProperty(IWebBrowser2* pBrowser, const wchar_t* pszName)
 
 ComPtr<IOleClientSite> GetClientSite(IHTMLDocument2* pDocument)
 {
-    ComPtr<IOleObject> spObject;
+    const ComPtr<IOleObject> spObject = QueryFor<IOleObject>(pDocument);
     ComPtr<IOleClientSite> spSite;
-    if (SUCCEEDED(pDocument->QueryInterface(IID_PPV_ARGS(&spObject))) && FAILED(spObject->GetClientSite(&spSite)))
+    if (!spObject || FAILED(spObject->GetClientSite(&spSite)))
         return nullptr;
     return spSite;
+}
+
+bool SetUIHandler(IDispatch* pDocument, IUnknown* pHandler)
+{
+    const ComPtr<ICustomDoc> spDocument = QueryFor<ICustomDoc>(pDocument);
+    const ComPtr<IDocHostUIHandler> spHandler = QueryFor<IDocHostUIHandler>(pHandler);
+    return spDocument && spHandler && SUCCEEDED(spDocument->SetUIHandler(spHandler.Get()));
 }
 } // namespace
 
@@ -53,32 +61,29 @@ bool CTrelvixWindow::InstallUIHandler()
     m_pUIHandler.Reset();
     if (FAILED(CoCreateInstance(CLSID_TrelvixMSHTMLUIHandler, nullptr, CLSCTX_ALL, IID_PPV_ARGS(&m_pUIHandler))))
         return false;
+    // The browser may re-enter from here on and leave another handler, or none, in the field.
+    const ComPtr<ITrelvixMSHTMLUIHandler> spHandler = m_pUIHandler;
     ComPtr<IDispatch> spDocument;
     if (FAILED(GetWebBrowser()->get_Document(&spDocument)))
         return false;
-    return AttachUIHandler(spDocument.Get());
+    if (PrepareUIHandler(*spHandler.Get(), spDocument.Get()))
+        return SetUIHandler(spDocument.Get(), spHandler.Get());
+    m_pUIHandler.Reset();
+    return false;
 }
 
-bool CTrelvixWindow::AttachUIHandler(IDispatch* pDocument)
+bool CTrelvixWindow::PrepareUIHandler(ITrelvixMSHTMLUIHandler& handler, IDispatch* pDocument)
 {
-    ComPtr<IHTMLDocument2> spDocument;
-    if (pDocument != nullptr)
-        pDocument->QueryInterface(IID_PPV_ARGS(&spDocument));
+    const ComPtr<IHTMLDocument2> spDocument = QueryFor<IHTMLDocument2>(pDocument);
     const ComPtr<IOleClientSite> spSite = spDocument ? GetClientSite(spDocument.Get()) : nullptr;
-    if (spSite == nullptr || FAILED(m_pUIHandler->SetOleClientSite(spSite.Get())))
-    {
-        m_pUIHandler.Reset();
+    if (!spSite || FAILED(handler.SetOleClientSite(spSite.Get())))
         return false;
-    }
     // The window's address in the disguise of a COM object; the handler reads it back as what it is.
     VARIANT window = {};
     window.vt = VT_UNKNOWN;
     window.punkVal = reinterpret_cast<IUnknown*>(this);
-    m_pUIHandler->SetToolbarWindow(window);
-    ComPtr<ICustomDoc> spCustomDocument;
-    ComPtr<IDocHostUIHandler> spHandler;
-    return SUCCEEDED(spDocument.As(&spCustomDocument)) && SUCCEEDED(m_pUIHandler.As(&spHandler)) &&
-           SUCCEEDED(spCustomDocument->SetUIHandler(spHandler.Get()));
+    handler.SetToolbarWindow(window);
+    return true;
 }
 
 bool CTrelvixWindow::IsInfoBarOpen()

@@ -41,6 +41,8 @@ void CFakeCalls::Reset()
 std::optional<HRESULT> CFakeCalls::Record(const char* pszObject, const char* pszMethod)
 {
     m_calls.push_back({pszObject, pszMethod});
+    if (!m_actions.empty())
+        Act(m_calls.back().GetName());
     if (m_nCallsToFailure != 0 && --m_nCallsToFailure == 0)
     {
         m_bHasFailed = true;
@@ -48,8 +50,14 @@ std::optional<HRESULT> CFakeCalls::Record(const char* pszObject, const char* psz
     }
     if (m_failingNames.empty())
         return std::nullopt;
-    const auto found = m_failingNames.find(m_calls.back().GetName());
+    const auto found = m_failingNames.find(CCall {pszObject, pszMethod}.GetName());
     return found == m_failingNames.end() ? std::nullopt : std::optional(found->second);
+}
+
+void CFakeCalls::Act(const std::string& strName)
+{
+    if (auto action = m_actions.extract(strName))
+        action.mapped()();
 }
 
 void CFakeCalls::FailCall(size_t n, HRESULT hr)

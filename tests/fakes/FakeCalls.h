@@ -3,6 +3,7 @@
 #include <windows.h>
 
 #include <cstddef>
+#include <functional>
 #include <map>
 #include <optional>
 #include <string>
@@ -28,6 +29,8 @@ public:
     bool HasFailed() const { return m_bHasFailed; }
     /// Makes all calls of a name ("WebBrowser.get_Document") fail.
     void FailAll(const std::string& strName, HRESULT hr) { m_failingNames[strName] = hr; }
+    /// Does something within the next call of the name, before it answers: the browser re-enters, a page goes.
+    void ActIn(const std::string& strName, std::function<void()> action) { m_actions[strName] = std::move(action); }
 
     /// The names of the calls so far ("WebBrowser.Navigate"), without those of QueryInterface.
     std::vector<std::string> GetNames() const;
@@ -49,7 +52,10 @@ private:
     };
 
     std::vector<CCall> m_calls;
+    void Act(const std::string& strName);
+
     std::map<std::string, HRESULT> m_failingNames;
+    std::map<std::string, std::function<void()>> m_actions;
     size_t m_nCallsToFailure = 0; ///< 0: none is planned
     HRESULT m_hrFailure = S_OK;
     bool m_bHasFailed = false;

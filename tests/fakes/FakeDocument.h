@@ -29,6 +29,9 @@ class CFakeDocument : public CFakeObject<CFakeDocument, CHTMLDocument2NotImpl, C
 public:
     CFakeDocument() : CFakeObject("Document") {}
 
+    /// The document as any object; borrowed.
+    IUnknown* AsObject() { return static_cast<IHTMLDocument2*>(this); }
+
     STDMETHODIMP EnumObjects(DWORD dwFlags, IEnumUnknown** ppEnum) override;
     STDMETHODIMP GetClientSite(IOleClientSite** ppSite) override;
     STDMETHODIMP SetUIHandler(IDocHostUIHandler* pHandler) override;

@@ -4,8 +4,6 @@
 #include "broker/UserSettings.h"
 #include "framework/ComBoundary.h"
 
-#include <comutil.h>
-
 #include <string_view>
 
 namespace
@@ -25,12 +23,12 @@ HRESULT Read(BSTR key, BSTR* value)
     const auto path = ParseSettingPath(ViewOf(key));
     if (!path)
         return E_ACCESSDENIED;
-    _bstr_t text;
-    const HRESULT hr = ReadUserSetting(*path, text);
+    BSTR text = nullptr;
+    const HRESULT hr = ReadUserSetting(*path, &text);
     if (FAILED(hr))
         return hr;
     SysFreeString(*value);
-    *value = text.Detach();
+    *value = text;
     return S_OK;
 }
 

@@ -3,15 +3,19 @@
 #include <cwchar>
 #include <string>
 
-HRESULT ReadUserSetting(const SettingPath& path, _bstr_t& text)
+HRESULT ReadUserSetting(const SettingPath& path, BSTR* text)
 {
+    *text = nullptr;
     std::wstring buffer(MaxSettingBytes / sizeof(wchar_t) + 1, L'\0');
     DWORD size = static_cast<DWORD>(buffer.size() * sizeof(wchar_t));
     const LSTATUS status = RegGetValueW(HKEY_CURRENT_USER, path.key.c_str(), path.value.c_str(), RRF_RT_REG_SZ, nullptr,
                                         buffer.data(), &size);
-    if (status == ERROR_SUCCESS)
-        text = buffer.c_str();
-    return status == ERROR_FILE_NOT_FOUND ? S_OK : HRESULT_FROM_WIN32(status);
+    if (status == ERROR_FILE_NOT_FOUND)
+        return S_OK;
+    if (status != ERROR_SUCCESS)
+        return HRESULT_FROM_WIN32(status);
+    *text = SysAllocString(buffer.c_str());
+    return *text != nullptr ? S_OK : E_OUTOFMEMORY;
 }
 
 HRESULT WriteUserSetting(const SettingPath& path, const wchar_t* text)

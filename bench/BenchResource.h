@@ -1,0 +1,31 @@
+#pragma once
+
+// Identifiers of the bench browser's resources and commands.
+
+#define IDR_MAINFRAME 100
+#define IDR_NAVIGATION 101
+
+#define IDM_NEW_WINDOW 40001
+#define IDM_NEW_TAB 40002
+#define IDM_CLOSE_TAB 40003
+#define IDM_EXIT 40004
+#define IDM_CUT 40011
+#define IDM_COPY 40012
+#define IDM_PASTE 40013
+#define IDM_SELECT_ALL 40014
+#define IDM_STATUS_BAR 40021
+#define IDM_VISUAL_STYLE 40022
+#define IDM_STOP 40023
+#define IDM_REFRESH 40024
+#define IDM_BACK 40025
+#define IDM_FORWARD 40026
+#define IDM_HOME 40027
+#define IDM_GO 40028
+#define IDM_ADDRESS 40029
+#define IDM_NEXT_TAB 40030
+#define IDM_PREVIOUS_TAB 40031
+#define IDM_ABOUT 40041
+#define IDM_FIRST_PAGE 40100
+#define IDM_LAST_PAGE 40149
+#define IDM_FIRST_TOOLBAR 40150
+#define IDM_LAST_TOOLBAR 40199

@@ -1,0 +1,52 @@
+#pragma once
+
+#include "bench/engine/Socket.h"
+#include "framework/Handles.h"
+
+#include <windows.h>
+
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <thread>
+#include <vector>
+
+struct CHttpRequest;
+
+/// Serves the pages of a folder on loopback. Besides the files it answers some paths of its own, for what a file can't
+/// do:
+/// - `/slow?ms=N&to=/file`: the file after N milliseconds;
+/// - `/redirect?to=/file`: sends on to the file;
+/// - `/download`: a file to be saved and not shown;
+/// - `/status/N`: an empty-handed page with that status;
+/// - `/search?q=TEXT`: a page that shows what it was asked for.
+class CPageServer
+{
+public:
+    CPageServer() = default;
+    ~CPageServer();
+    CPageServer(const CPageServer&) = delete;
+    CPageServer& operator=(const CPageServer&) = delete;
+
+    /// Serves the folder from now on. False when there is no port to be had.
+    bool Start(const std::filesystem::path& folder);
+
+    /// "http://127.0.0.1:PORT/"
+    const std::wstring& GetAddress() const { return m_strAddress; }
+
+private:
+    void AcceptAll();
+    void Serve(CLoopbackSocket socket);
+    std::optional<std::string> ReadHead(CLoopbackSocket& socket) const;
+    std::string Answer(const CHttpRequest& request) const;
+    std::string AnswerFile(const std::string& path) const;
+    std::string AnswerSlowly(const CHttpRequest& request) const;
+
+    std::filesystem::path m_folder;
+    std::wstring m_strAddress;
+    CSocketLibrary m_sockets;
+    CLoopbackSocket m_listener;
+    CUniqueKernelHandle m_stop {CreateEventW(nullptr, TRUE, FALSE, nullptr)};
+    std::thread m_acceptor;
+    std::vector<std::thread> m_servants;
+};

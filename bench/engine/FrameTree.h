@@ -49,6 +49,8 @@ public:
     /// Whether any frame has a load under way.
     bool IsLoading() const;
 
+    const std::map<std::string, CPageFrame>& GetAll() const { return m_frames; }
+
     void Attach(const std::string& id, const std::string& parentId);
 
     /// Takes the frame and all below it out of the tree and gives them back, the innermost first.

@@ -66,18 +66,31 @@ bool CLoopbackSocket::Send(const std::string& bytes)
 
 std::optional<std::string> CLoopbackSocket::ReadLine(unsigned nTimeoutMs)
 {
-    const ULONGLONG ullEnd = GetTickCount64() + nTimeoutMs;
     std::string line;
     for (;;)
     {
-        const ULONGLONG ullNow = GetTickCount64();
-        char ch = 0;
-        if (ullNow > ullEnd || !CanRead(static_cast<unsigned>(ullEnd - ullNow)) || recv(m_socket, &ch, 1, 0) != 1)
+        const std::string next = ReadBytes(1, nTimeoutMs);
+        if (next.empty())
             return std::nullopt;
-        if (ch == '\n')
+        if (next == "\n")
             return line;
-        line += ch;
+        line += next;
     }
+}
+
+std::string CLoopbackSocket::ReadBytes(size_t cbBytes, unsigned nTimeoutMs)
+{
+    std::string bytes(cbBytes, '\0');
+    size_t cbRead = 0;
+    while (cbRead < cbBytes && CanRead(nTimeoutMs))
+    {
+        const int nRead = recv(m_socket, bytes.data() + cbRead, static_cast<int>(cbBytes - cbRead), 0);
+        if (nRead <= 0)
+            break;
+        cbRead += static_cast<size_t>(nRead);
+    }
+    bytes.resize(cbRead);
+    return bytes;
 }
 
 bool CLoopbackSocket::CanRead(unsigned nTimeoutMs) const

@@ -37,6 +37,8 @@ public:
 
     /// Text up to the next line end, without it; none at the end of the connection or when none comes in time.
     std::optional<std::string> ReadLine(unsigned nTimeoutMs);
+    /// So many bytes; fewer at the end of the connection or when they don't come in time.
+    std::string ReadBytes(size_t cbBytes, unsigned nTimeoutMs);
     /// Sends all of it; false when the other side has gone.
     bool Send(const std::string& bytes);
     /// Whether the other side has sent something or gone.

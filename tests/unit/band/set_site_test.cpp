@@ -80,7 +80,7 @@ TEST_F(SetSite, AdvisesTheBandsOwnDispatch)
     Connect();
     const auto sinks = m_spBrowser->GetConnectionPoint().GetSinks();
     ASSERT_EQ(1u, sinks.size());
-    EXPECT_EQ(AskBandFor<IDispatch>(), sinks.front());
+    EXPECT_EQ(AskBandFor<IDispatch>().Get(), sinks.front().Get());
 }
 
 TEST_F(SetSite, GivesTheWindowTheBrowserAndTheBand)

@@ -10,8 +10,11 @@ CFakeFrameWindow::~CFakeFrameWindow() = default;
 
 STDMETHODIMP CFakeFrameWindow::get_document(IHTMLDocument2** ppDocument)
 {
-    return Call("get_document", ppDocument,
-                [&] { return m_bDenied ? E_ACCESSDENIED : m_spDocument.CopyTo(ppDocument); });
+    return Call("get_document", ppDocument, [&] {
+        if (m_bDenied)
+            return E_ACCESSDENIED;
+        return m_spDocument ? m_spDocument.CopyTo(ppDocument) : S_OK;
+    });
 }
 
 STDMETHODIMP CFakeFramesCollection::get_length(LONG* pnLength)

@@ -21,6 +21,7 @@ class CFakeFrameWindow : public CFakeObject<CFakeFrameWindow, CHTMLWindow2NotImp
     END_COM_MAP()
 
 public:
+    /// A null document is answered as it stands.
     explicit CFakeFrameWindow(CFakeHtmlDocument* pDocument);
     ~CFakeFrameWindow();
 

@@ -26,8 +26,8 @@ std::vector<ENotification> CRecordingEvents::GetNotifications() const
 void CRecordingEvents::Tell(CNotification notification)
 {
     m_told.push_back(notification);
-    if (m_action)
-        m_action(notification);
+    if (const Action action = m_action) // which may set another
+        action(notification);
 }
 
 void CRecordingEvents::OnPageLoadBegin(IDispatch* pFrame, LPCWSTR pszUrl)

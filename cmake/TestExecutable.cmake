@@ -9,16 +9,17 @@ target_link_libraries(precompiled_for_tests PRIVATE GTest::gmock)
 target_compile_options(precompiled_for_tests PRIVATE ${test_options})
 
 #[[
-trelvix_add_tests(<name> SOURCES <file>... [LIBRARIES <target>...] [TIMEOUT <seconds>] [GUI] [OWN_PREFIX])
+trelvix_add_tests(<name> SOURCES <file>... [LIBRARIES <target>...] [TIMEOUT <seconds>] [GUI] [OWN_PREFIX] [TOGETHER])
 
 Makes a test program of GoogleTest sources and tells ctest each of its tests.
 - TIMEOUT: how long one test may take, 60 seconds if not given.
 - GUI: the tests show windows or move the pointer, so they run one at a time.
 - OWN_PREFIX: the tests change what other tests rely on (the registration, a killed server); they run one at a time in a
   Wine prefix that only they use, each in a Wine session of its own, and nothing is registered there.
+- TOGETHER: the tests run one after the other in one process and so in one session; for ctest they are one test.
 ]]
 function(trelvix_add_tests name)
-    cmake_parse_arguments(arg "GUI;OWN_PREFIX" "TIMEOUT" "SOURCES;LIBRARIES" ${ARGN})
+    cmake_parse_arguments(arg "GUI;OWN_PREFIX;TOGETHER" "TIMEOUT" "SOURCES;LIBRARIES" ${ARGN})
     if(NOT arg_TIMEOUT)
         set(arg_TIMEOUT 60)
     endif()
@@ -37,6 +38,11 @@ function(trelvix_add_tests name)
         set(scripts "${CMAKE_SOURCE_DIR}/scripts")
         set_target_properties(${name} PROPERTIES
             CROSSCOMPILING_EMULATOR "${scripts}/wine-session;${prefix};${scripts}/wine;${prefix}")
+    endif()
+    if(arg_TOGETHER)
+        add_test(NAME ${name} COMMAND ${name})
+        set_tests_properties(${name} PROPERTIES ${properties})
+        return()
     endif()
     gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 60 PROPERTIES ${properties})
 endfunction()

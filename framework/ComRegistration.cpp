@@ -3,6 +3,7 @@
 #include "framework/Registrar.h"
 
 #include <comcat.h>
+#include <comutil.h>
 #include <wrl/client.h>
 
 #include <string>
@@ -42,10 +43,15 @@ HRESULT RegisterLibrary()
     return FAILED(hr) ? hr : RegisterTypeLib(spLibrary.Get(), const_cast<wchar_t*>(path.c_str()), nullptr);
 }
 
+bool IsLibraryRegistered(const GUID& libid)
+{
+    _bstr_t path;
+    return SUCCEEDED(QueryPathOfRegTypeLib(libid, 1, 0, LOCALE_NEUTRAL, path.GetAddress()));
+}
+
 HRESULT UnregisterLibrary(const GUID& libid)
 {
-    const HRESULT hr = UnRegisterTypeLib(libid, 1, 0, LOCALE_NEUTRAL, SYS_WIN64);
-    return hr == TYPE_E_REGISTRYACCESS ? S_OK : hr; // it was not registered
+    return IsLibraryRegistered(libid) ? UnRegisterTypeLib(libid, 1, 0, LOCALE_NEUTRAL, SYS_WIN64) : S_OK;
 }
 
 /// The registrar leaves a class key standing that holds keys which its script doesn't name.
@@ -75,9 +81,8 @@ HRESULT CComModule::UnregisterServer() const
     HRESULT hr = UnregisterLibrary(m_libid);
     for (auto row = m_classes.rbegin(); row != m_classes.rend() && SUCCEEDED(hr); ++row)
     {
-        hr = RegisterCategory(*row, false);
-        if (SUCCEEDED(hr))
-            hr = RunRegistryScript(row->nRegistryResource, false);
+        RegisterCategory(*row, false); // fails where nothing was registered, and the class key goes with all below it
+        hr = RunRegistryScript(row->nRegistryResource, false);
         if (SUCCEEDED(hr))
             DeleteClassKey(*row->pclsid);
     }

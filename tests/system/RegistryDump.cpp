@@ -49,13 +49,13 @@ void DumpValues(HKEY hKey, const std::wstring& strPath, CRegistryDump& dump)
             return;
         std::vector<BYTE> data(cbData);
         RegQueryValueExW(hKey, name.data(), nullptr, nullptr, data.data(), &cbData);
-        dump[strPath + L"\\" + (nLength ? name.data() : L"@")] = Describe(dwType, data);
+        dump[ToLower(strPath + L"\\" + (nLength ? name.data() : L"@"))] = Describe(dwType, data);
     }
 }
 
 void DumpKey(HKEY hKey, const std::wstring& strPath, CRegistryDump& dump)
 {
-    dump[strPath + L"\\"] = L"";
+    dump[ToLower(strPath + L"\\")] = L"";
     DumpValues(hKey, strPath, dump);
     wchar_t szName[256] = {};
     for (DWORD nIndex = 0; RegEnumKeyW(hKey, nIndex, szName, ARRAYSIZE(szName)) == ERROR_SUCCESS; ++nIndex)
@@ -72,6 +72,12 @@ CRegistryDump DumpRegistry(HKEY hRoot, const std::wstring& strPath)
     if (const CUniqueRegistryKey key = OpenKey(hRoot, strPath))
         DumpKey(key.get(), strPath, dump);
     return dump;
+}
+
+std::wstring ToLower(std::wstring strPath)
+{
+    CharLowerW(strPath.data());
+    return strPath;
 }
 
 CRegistryDump GetAdded(const CRegistryDump& before, const CRegistryDump& after)

@@ -97,7 +97,7 @@ private:
     HWND m_hWndParent = nullptr;
     HWND m_hWnd = nullptr;
     Microsoft::WRL::ComPtr<IInputObjectSite> m_pSite; ///< set while the band is connected
-    std::unique_ptr<CTrelvixWindow> m_pToolbarWindow;
+    std::shared_ptr<CTrelvixWindow> m_pToolbarWindow; ///< shared with the calls that are under way in it
     Microsoft::WRL::ComPtr<IWebBrowser2> m_pWebBrowser;
     DWORD m_dwEventCookie = 0;
     BOOL m_bBreakRow = FALSE; ///< stays set for the life of the object

@@ -82,6 +82,12 @@ CTrelvixButton* CTrelvixWindow::GetLayoutButton(int nPosition) const
     return nPosition >= 0 && nPosition < MaxLayoutEntries ? GetVisibleButton(m_aOrder[nPosition]) : nullptr;
 }
 
+LRESULT CTrelvixWindow::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
+{
+    const auto spThis = Hold();
+    return CToolBarCtrl::WindowProc(message, wParam, lParam);
+}
+
 void CTrelvixWindow::OnDestroy()
 {
     if (m_pUIHandler)

@@ -27,8 +27,12 @@ inline constexpr UINT FocusSearchBoxMessage = 0x3400;
 
 /// The visible toolbar and the hub of one browser tab: it owns the items, holds the browser, passes events, clicks,
 /// keys and focus to the items of the layout. All calls come on the tab's thread. An item may run LoadLayout, which
-/// replaces all items, from inside any call: the walks read their tables anew at each step.
-class CTrelvixWindow : public CToolBarCtrl, public ITVXEvents, public CTVXEventManager
+/// replaces all items, from inside any call: the walks read their tables anew at each step. It may even end the band
+/// there: the object then lasts until the call returns, if it is owned by a shared pointer.
+class CTrelvixWindow : public CToolBarCtrl,
+                       public ITVXEvents,
+                       public CTVXEventManager,
+                       public std::enable_shared_from_this<CTrelvixWindow>
 {
     DECLARE_MESSAGE_MAP()
 
@@ -96,7 +100,13 @@ public:
     void SetBand(CATLTrelvix* pBand) { m_pBand = pBand; }
     CATLTrelvix* GetBand() const { return m_pBand; }
 
+protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
+
 private:
+    /// Keeps the object for the time of a call; null for one that no shared pointer owns.
+    std::shared_ptr<CTrelvixWindow> Hold() { return weak_from_this().lock(); }
+
     /// First the notifications that an event causes, then the commands of a page, then the raw event to each item of
     /// the layout. Without arguments not even the items hear of it.
     void FireInvoke(DISPID dispid, REFIID riid, LCID lcid, WORD wFlags, DISPPARAMS* pDispParams, VARIANT* pVarResult,

@@ -5,6 +5,7 @@
 void CTrelvixWindow::Invoke(DISPID dispid, REFIID riid, LCID lcid, WORD wFlags, DISPPARAMS* pDispParams,
                             VARIANT* pVarResult, EXCEPINFO* pExcepInfo, UINT* puArgErr)
 {
+    const auto spThis = Hold();
     FireInvoke(dispid, riid, lcid, wFlags, pDispParams, pVarResult, pExcepInfo, puArgErr);
 }
 
@@ -29,6 +30,7 @@ void CTrelvixWindow::FireInvoke(DISPID dispid, REFIID riid, LCID lcid, WORD wFla
 
 void CTrelvixWindow::FireScriptError(IHTMLDocument2* pDocument, bool* pbContinueScripts, bool* pbNotHandled)
 {
+    const auto spThis = Hold();
     for (int nIndex = 0; nIndex < ButtonCount; ++nIndex)
         if (CTrelvixButton* pButton = GetVisibleButton(nIndex))
             pButton->OnScriptError(pDocument, pbContinueScripts, pbNotHandled);

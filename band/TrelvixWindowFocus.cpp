@@ -25,6 +25,7 @@ HRESULT CTrelvixWindow::UIActivateIO(BOOL fActivate, MSG*)
 {
     if (!fActivate)
         return S_OK;
+    const auto spThis = Hold();
     const auto takeFocus = [](CTrelvixButton& button) { return button.IsFocusable() && button.TakeFocus(); };
     if (GetKeyState(VK_SHIFT) >= 0)
     {

@@ -27,11 +27,7 @@ STDMETHODIMP CFakeWebBrowser2::Navigate(BSTR bstrUrl, VARIANT* pFlags, VARIANT* 
 {
     m_navigations.push_back(
         {ToText(bstrUrl), ToVariant(pFlags), IsGiven(pTarget) || IsGiven(pPostData) || IsGiven(pHeaders)});
-    return Call("Navigate", [&] {
-        if (m_onNavigate)
-            m_onNavigate();
-        return S_OK;
-    });
+    return Call("Navigate", [] { return S_OK; });
 }
 
 STDMETHODIMP CFakeWebBrowser2::get_Document(IDispatch** ppDocument)

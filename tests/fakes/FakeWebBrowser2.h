@@ -9,7 +9,6 @@
 #include <exdisp.h>
 #include <ocidl.h>
 
-#include <functional>
 #include <map>
 #include <string>
 #include <vector>
@@ -69,7 +68,6 @@ public:
     READYSTATE m_eReadyState = READYSTATE_COMPLETE;
     std::map<std::wstring, _variant_t> m_properties;
     std::vector<CNavigation> m_navigations;
-    std::function<void()> m_onNavigate; ///< what comes in while the browser navigates
     std::vector<CBrowserBar> m_browserBars;
 
 private:

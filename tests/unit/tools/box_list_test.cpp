@@ -145,7 +145,7 @@ TEST_F(BoxList, SearchesOnceByAnEntryOfAnEmptyField)
 TEST_F(BoxList, SurvivesThatASelectionMakesAllItemsAnew)
 {
     const HWND hWndBox = GetBox(Box);
-    m_spBrowser->m_onNavigate = [&] { GetToolbar().LoadLayout(); };
+    CFakeCalls::Get().ActIn("WebBrowser.Navigate", [&] { GetToolbar().LoadLayout(); });
     SendMessageW(hWndBox, CB_SETCURSEL, 0, 0);
     SendMessageW(GetBandWindow(), WM_COMMAND, MAKEWPARAM(Box, CBN_SELCHANGE), reinterpret_cast<LPARAM>(hWndBox));
     EXPECT_THAT(TakeSearches(), ElementsAre(L"first"));

@@ -237,7 +237,7 @@ TEST_F(SearchWebBox, TakesARefusedNavigationForDone)
 TEST_F(SearchWebBox, SurvivesThatASearchMakesAllItemsAnew)
 {
     Type(Box, L"word");
-    m_spBrowser->m_onNavigate = [&] { GetToolbar().LoadLayout(); };
+    CFakeCalls::Get().ActIn("WebBrowser.Navigate", [&] { GetToolbar().LoadLayout(); });
     EXPECT_EQ(S_OK, PressKey(Box, VK_RETURN));
     EXPECT_EQ(L"Google Search (Alt+Q)", GetBoxText(Box));
     EXPECT_FALSE(GetItem(Box).HasFocus());

@@ -1,15 +1,23 @@
 #include "bench/Application.h"
 
 #include "bench/engine/Url.h"
+#include "bench/ExitCodes.h"
 #include "bench/Message.h"
+#include "bench/protocol/Json.h"
+#include "bench/script/ScriptRunner.h"
 #include "bench/server/PageList.h"
 
 #include <algorithm>
 #include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <thread>
 
 namespace
 {
 constexpr wchar_t DefaultEngine[] = L"chromium";
+constexpr DWORD ClosingTimeoutMs = 20'000;
+constexpr DWORD ClosingPollMs = 100;
 
 /// Whether it is the name of a page of the bench, such as "frames.html" or "slow?ms=100".
 bool IsOwnPage(const std::wstring& address)
@@ -39,6 +47,11 @@ std::wstring CApplication::GetProgramFolder()
 int CApplication::Run(int nShow)
 {
     std::wstring error;
+    if (!LoadSteps(error))
+    {
+        ShowError(error);
+        return ExitWrongOption;
+    }
     if (!Start(error))
     {
         ShowError(error);
@@ -47,8 +60,16 @@ int CApplication::Run(int nShow)
     const std::wstring first = m_options.strUrl.empty() ? GetListedPages().front().pszFile : m_options.strUrl;
     if (!ShowWindow(CompleteAddress(first), nShow))
         return EXIT_FAILURE;
+    std::thread script;
+    if (!m_steps.empty())
+        script = std::thread([this] { TakeSteps(); });
     RunMessageLoop();
-    return EXIT_SUCCESS;
+    if (script.joinable())
+        script.join();
+    if (m_strFailure.empty())
+        return EXIT_SUCCESS;
+    ShowError(m_strFailure);
+    return EXIT_FAILURE;
 }
 
 bool CApplication::Start(std::wstring& error)
@@ -58,7 +79,67 @@ bool CApplication::Start(std::wstring& error)
         error = L"There is no port for the pages of the bench.";
         return false;
     }
+    if (!m_journal.Open(m_server.GetAddress(), m_options.strEventLog))
+    {
+        error = m_options.strEventLog + L" could not be written.";
+        return false;
+    }
     return m_engine.Start(m_options.strEngine.empty() ? DefaultEngine : m_options.strEngine, error);
+}
+
+bool CApplication::LoadSteps(std::wstring& error)
+{
+    if (!m_options.strScreenshot.empty())
+        m_steps = {{0, L"wait-for-load", {}}, {0, L"picture", {m_options.strScreenshot}}};
+    if (m_options.strScript.empty())
+        return true;
+    std::ifstream file(std::filesystem::path(m_options.strScript), std::ios::binary);
+    if (!file)
+        error = L"it can't be read";
+    else
+    {
+        const std::string text {std::istreambuf_iterator<char>(file), {}};
+        if (ParseScript(FromUtf8(text), m_steps, error) && CScriptRunner::Check(m_steps, error))
+            return true;
+    }
+    error = m_options.strScript + L": " + error;
+    return false;
+}
+
+void CApplication::TakeSteps()
+{
+    // Pictures are written by COM objects.
+    CoInitializeEx(nullptr, COINIT_MULTITHREADED);
+    std::wstring error;
+    if (!CScriptRunner(*this, m_options.strOutput).Run(m_steps, error))
+        m_strFailure = m_options.strScript + L": " + error;
+    CoUninitialize();
+    CloseAll();
+}
+
+void CApplication::CloseAll()
+{
+    const ULONGLONG ullEnd = GetTickCount64() + ClosingTimeoutMs;
+    const auto closeFrames = [](const Frames& frames) {
+        for (const auto& frame : frames)
+            PostMessageW(*frame, WM_CLOSE, 0, 0);
+    };
+    while (RunOnMain(closeFrames, ClosingTimeoutMs))
+    {
+        if (GetTickCount64() > ullEnd)
+        {
+            // A window that doesn't close, as below a dialog that the script left open, must not keep the program
+            // alive.
+            ShowError(m_strFailure.empty() ? L"a window doesn't close" : m_strFailure);
+            TerminateProcess(GetCurrentProcess(), EXIT_FAILURE);
+        }
+        Sleep(ClosingPollMs);
+    }
+}
+
+bool CApplication::RunOnMain(std::function<void(const Frames&)> task, DWORD dwTimeoutMs)
+{
+    return m_queue->Run([&] { task(m_frames); }, dwTimeoutMs);
 }
 
 bool CApplication::ShowWindow(const std::wstring& url, int nShow)
@@ -83,11 +164,6 @@ void CApplication::RunMessageLoop()
     }
 }
 
-IEventTap* CApplication::GetEventTap()
-{
-    return nullptr;
-}
-
 std::wstring CApplication::CompleteAddress(const std::wstring& address)
 {
     return IsOwnPage(address) ? m_server.GetAddress() + address : CompleteUrl(address);
@@ -102,7 +178,9 @@ void CApplication::OnFrameClosed(CFrameWindow& frame)
 {
     m_queue->Post([&frame, this] {
         std::erase_if(m_frames, [&](const auto& each) { return each.get() == &frame; });
-        if (m_frames.empty())
-            PostQuitMessage(0);
+        if (!m_frames.empty())
+            return;
+        m_queue->Close();
+        PostQuitMessage(0);
     });
 }

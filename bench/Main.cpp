@@ -1,4 +1,5 @@
 #include "bench/Application.h"
+#include "bench/ExitCodes.h"
 #include "bench/Message.h"
 #include "bench/Options.h"
 #include "bench/Version.h"
@@ -10,8 +11,6 @@
 
 namespace
 {
-constexpr int ExitWrongOption = 2;
-
 std::vector<std::wstring> GetArguments()
 {
     int nArguments = 0;

@@ -1,19 +1,12 @@
 #include "bench/Message.h"
 
+#include "bench/protocol/Json.h"
+
 #include <windows.h>
 
 namespace
 {
 constexpr wchar_t BoxTitle[] = L"Trelvix Bench";
-
-std::string ToUtf8(const std::wstring& text)
-{
-    const int nChars = static_cast<int>(text.size());
-    std::string bytes(WideCharToMultiByte(CP_UTF8, 0, text.data(), nChars, nullptr, 0, nullptr, nullptr), '\0');
-    WideCharToMultiByte(CP_UTF8, 0, text.data(), nChars, bytes.data(), static_cast<int>(bytes.size()), nullptr,
-                        nullptr);
-    return bytes;
-}
 
 bool Write(DWORD dwHandle, const std::wstring& text)
 {

@@ -20,8 +20,7 @@ class IApplication
 {
 public:
     virtual CEngine& GetEngine() = 0;
-    /// Null when nobody listens to events.
-    virtual IEventTap* GetEventTap() = 0;
+    virtual IEventTap& GetEventTap() = 0;
     /// The number of the next tab, counted from 1 over all windows.
     virtual int GetNextTabNumber() = 0;
     /// What a person typed, or a page of the bench by its file name, as a whole address.
@@ -53,6 +52,7 @@ public:
     void AddTab(const std::wstring& url);
     void ActivateTab(size_t nIndex);
     bool IsAddressFocused() const { return m_addressBar.HasFocus(); }
+    std::wstring GetAddress() const { return m_addressBar.GetAddress(); }
     std::wstring GetStatusText() const;
 
 private:

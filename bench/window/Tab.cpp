@@ -21,15 +21,15 @@ void RunMessageLoop(CTabWindow& window)
 }
 } // namespace
 
-CTab::CTab(ITabFrame& frame, int nTab, CEngine& engine, const std::wstring& url, IEventTap* pTap)
+CTab::CTab(ITabFrame& frame, int nTab, CEngine& engine, const std::wstring& url, IEventTap& tap)
     : m_frame(frame), m_nTab(nTab)
 {
     std::promise<void> ready;
-    m_thread = std::thread([&engine, url, pTap, &ready, this] {
+    m_thread = std::thread([&engine, url, &tap, &ready, this] {
         OleInitialize(nullptr);
         m_queue = std::make_shared<CTaskQueue>();
         ready.set_value();
-        RunThread(engine, url, pTap);
+        RunThread(engine, url, tap);
         OleUninitialize();
         m_frame.OnTabClosed(m_nTab);
     });
@@ -41,11 +41,11 @@ CTab::~CTab()
     m_thread.join();
 }
 
-void CTab::RunThread(CEngine& engine, const std::wstring& url, IEventTap* pTap)
+void CTab::RunThread(CEngine& engine, const std::wstring& url, IEventTap& tap)
 {
     CTabWindow window(m_frame, m_nTab);
     m_pWindow = &window;
-    if (window.Create(engine, url, pTap))
+    if (window.Create(engine, url, tap))
         RunMessageLoop(window);
     m_queue->Close();
 }

@@ -19,7 +19,7 @@ class CTab
 {
 public:
     /// Starts the thread, which makes the tab's window as a child of the frame and loads the address.
-    CTab(ITabFrame& frame, int nTab, CEngine& engine, const std::wstring& url, IEventTap* pTap);
+    CTab(ITabFrame& frame, int nTab, CEngine& engine, const std::wstring& url, IEventTap& tap);
     /// Waits for the thread; the tab must have been closed.
     ~CTab();
     CTab(const CTab&) = delete;
@@ -35,7 +35,7 @@ public:
     CTabState m_state;
 
 private:
-    void RunThread(CEngine& engine, const std::wstring& url, IEventTap* pTap);
+    void RunThread(CEngine& engine, const std::wstring& url, IEventTap& tap);
 
     ITabFrame& m_frame;
     const int m_nTab;

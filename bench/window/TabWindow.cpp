@@ -18,7 +18,7 @@ CTabWindow::CTabWindow(ITabFrame& frame, int nTab) : m_frame(frame), m_nTab(nTab
 
 CTabWindow::~CTabWindow() = default;
 
-bool CTabWindow::Create(CEngine& engine, const std::wstring& url, IEventTap* pTap)
+bool CTabWindow::Create(CEngine& engine, const std::wstring& url, IEventTap& tap)
 {
     constexpr DWORD dwStyle = WS_CHILD | WS_CLIPSIBLINGS | WS_CLIPCHILDREN;
     IBrowserWindow& window = *this;
@@ -32,8 +32,7 @@ bool CTabWindow::Create(CEngine& engine, const std::wstring& url, IEventTap* pTa
     if (!m_spBrowser->Open(engine, error))
         OnPageGone(error);
     m_rebar.LoadToolbars();
-    if (pTap)
-        pTap->Connect(m_nTab, m_spBrowser.Get());
+    tap.Connect(m_nTab, m_spBrowser.Get());
     Navigate(url);
     return true;
 }
@@ -79,6 +78,11 @@ void CTabWindow::GoBack()
 void CTabWindow::GoForward()
 {
     m_spBrowser->GoForward();
+}
+
+void CTabWindow::FinishDrawing()
+{
+    m_view.SetPicture(m_spBrowser->GetPage().Capture());
 }
 
 void CTabWindow::PressCtrlKey(UINT vk)

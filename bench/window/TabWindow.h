@@ -26,8 +26,8 @@ public:
     ~CTabWindow() override;
 
     /// Makes the windows and the page and begins to load the address. False only when the platform refuses a window: a
-    /// page that can't be had is told in its place. `pTap`, when not null, is told of every event.
-    bool Create(CEngine& engine, const std::wstring& url, IEventTap* pTap);
+    /// page that can't be had is told in its place. `tap` is told of every event.
+    bool Create(CEngine& engine, const std::wstring& url, IEventTap& tap);
 
     /// Says goodbye to the bands, closes the page and has the thread's message loop end. A tab with a dialog open
     /// stays.
@@ -46,6 +46,8 @@ public:
     void Stop();
     void GoBack();
     void GoForward();
+    /// Has everything on show that the page has drawn, before a picture of the window is taken.
+    void FinishDrawing();
     /// Presses a key in the page while Ctrl is held, as in the commands of the Edit menu.
     void PressCtrlKey(UINT vk);
     HRESULT ShowBar(REFCLSID clsid, bool bShow, int nSize) override;

@@ -1,0 +1,97 @@
+#include "bench/script/Keys.h"
+#include "bench/script/ScriptRunner.h"
+#include "bench/script/Toolbar.h"
+#include "bench/window/FrameWindow.h"
+#include "bench/window/TabWindow.h"
+
+#include <commctrl.h>
+
+namespace
+{
+constexpr int IconPartX = 8;
+constexpr int ArrowPartX = 6;
+
+void SendMouse(DWORD dwFlags)
+{
+    INPUT input = {};
+    input.type = INPUT_MOUSE;
+    input.mi.dwFlags = dwFlags;
+    SendInput(1, &input, sizeof input);
+}
+} // namespace
+
+void CScriptRunner::Type(const Arguments& arguments)
+{
+    SendText(arguments[0]);
+}
+
+void CScriptRunner::PressKey(const Arguments& arguments)
+{
+    if (!SendKeys(arguments[0]))
+        throw CStepError {L"there is no key " + arguments[0]};
+}
+
+RECT CScriptRunner::GetButtonRect(int nIndex, bool bScreen)
+{
+    RECT rect = {};
+    OnTab([&](CTabWindow& window) {
+        const HWND hToolbar = FindToolbar(window);
+        SendMessageW(hToolbar, TB_GETITEMRECT, nIndex, reinterpret_cast<LPARAM>(&rect));
+        if (bScreen)
+            MapWindowPoints(hToolbar, nullptr, reinterpret_cast<POINT*>(&rect), 2);
+    });
+    if (IsRectEmpty(&rect))
+        throw CStepError {L"the toolbar has no button " + std::to_wstring(nIndex)};
+    return rect;
+}
+
+void CScriptRunner::PressButton(const Arguments& arguments)
+{
+    Mark();
+    const RECT rect = GetButtonRect(std::stoi(arguments[0]), true);
+    ClickScreen({rect.left + IconPartX, (rect.top + rect.bottom) / 2});
+}
+
+void CScriptRunner::DropDown(const Arguments& arguments)
+{
+    const RECT rect = GetButtonRect(std::stoi(arguments[0]), true);
+    ClickScreen({rect.right - ArrowPartX, (rect.top + rect.bottom) / 2});
+}
+
+void CScriptRunner::MovePointer(const Arguments& arguments)
+{
+    SetCursorPos(std::stoi(arguments[0]), std::stoi(arguments[1]));
+}
+
+void CScriptRunner::ClickScreen(POINT point)
+{
+    SetCursorPos(point.x, point.y);
+    SendMouse(MOUSEEVENTF_LEFTDOWN);
+    SendMouse(MOUSEEVENTF_LEFTUP);
+}
+
+void CScriptRunner::ExpectFocus(const Arguments& arguments)
+{
+    const std::wstring& place = arguments[0];
+    const auto isThere = [&] {
+        bool bThere = false;
+        if (place == L"address")
+            OnFrame([&](CFrameWindow& frame) { bThere = frame.IsAddressFocused(); });
+        else if (place == L"toolbar")
+            OnTab([&](CTabWindow& window) { bThere = window.HasRebarFocus(); });
+        else
+            OnTab([&](CTabWindow& window) { bThere = GetFocus() == window.GetViewWindow(); });
+        return bThere;
+    };
+    WaitUntil(isThere, L"the keyboard is elsewhere");
+}
+
+void CScriptRunner::ExpectToolbar(const Arguments& arguments)
+{
+    const auto isThere = [&] {
+        LRESULT nButtons = 0;
+        OnTab([&](CTabWindow& window) { nButtons = SendMessageW(FindToolbar(window), TB_BUTTONCOUNT, 0, 0); });
+        return nButtons == std::stoi(arguments[0]);
+    };
+    WaitUntil(isThere, L"the toolbar doesn't have so many buttons");
+}

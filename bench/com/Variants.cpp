@@ -37,7 +37,8 @@ bool GetOptionalFlag(const VARIANT* pv, bool bFallback)
 std::string GetOptionalBytes(const VARIANT* pv)
 {
     _variant_t value;
-    if (pv == nullptr || FAILED(VariantCopyInd(&value, const_cast<VARIANT*>(pv))) || V_VT(&value) != (VT_ARRAY | VT_UI1))
+    if (pv == nullptr || FAILED(VariantCopyInd(&value, const_cast<VARIANT*>(pv))) ||
+        V_VT(&value) != (VT_ARRAY | VT_UI1))
         return {};
     SAFEARRAY* const pArray = V_ARRAY(&value);
     long nLower = 0;

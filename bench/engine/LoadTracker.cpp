@@ -28,21 +28,20 @@ bool CLoadTracker::BeginOwnNavigation(const CNavigation& navigation)
     return true;
 }
 
-void CLoadTracker::OnStartedNavigating(const std::string& frameId, const std::wstring& url, const std::string& type)
+bool CLoadTracker::OnStartedNavigating(const std::string& frameId, const std::wstring& url, const std::string& type)
 {
     CPageFrame* const pFrame = m_frames.Find(frameId);
     if (pFrame == nullptr || IsWithinDocument(type))
-        return;
+        return true;
     const bool bOwn = std::exchange(m_ownFrameId, {}) == frameId;
     pFrame->bReload = IsReload(type);
     pFrame->bCommitted = false;
-    if (pFrame->bReload)
-        return Begin(frameId);
-    if (IsFetchedUrl(url))
-        return;
-    if (!bOwn)
-        m_events.OnBeforeNavigate({.strFrameId = frameId, .strUrl = url});
+    if (!pFrame->bReload && IsFetchedUrl(url))
+        return true;
+    if (!pFrame->bReload && !bOwn && !m_events.OnBeforeNavigate({.strFrameId = frameId, .strUrl = url}))
+        return false;
     Begin(frameId);
+    return true;
 }
 
 bool CLoadTracker::OnRequest(const CNavigation& navigation)
@@ -73,10 +72,19 @@ void CLoadTracker::OnCommitted(const std::string& frameId, const std::wstring& u
     if (pFrame->bDownloading)
         pFrame->eState = ELoadState::Interactive;
     const bool bReload = pFrame->bReload;
+    // The empty document that a new frame begins with comes without an announcement.
+    const bool bUnannounced = !pFrame->bDownloading;
+    if (bUnannounced)
+    {
+        m_events.OnBeforeNavigate({.strFrameId = frameId, .strUrl = url});
+        Begin(frameId);
+    }
     if (!unreachableUrl.empty())
         m_events.OnNavigateError(frameId, unreachableUrl);
     if (!bReload)
         m_events.OnNavigateComplete(frameId);
+    if (bUnannounced)
+        OnStoppedLoading(frameId);
 }
 
 void CLoadTracker::OnMovedWithinDocument(const std::string& frameId, const std::wstring& url, bool bByAnchor)

@@ -42,8 +42,8 @@ public:
     /// The browser itself navigates to an address that the engine won't ask for. False when that was cancelled.
     bool BeginOwnNavigation(const CNavigation& navigation);
 
-    /// `type` is the protocol's NavigationType.
-    void OnStartedNavigating(const std::string& frameId, const std::wstring& url, const std::string& type);
+    /// `type` is the protocol's NavigationType. False when the navigation was cancelled and must be stopped.
+    bool OnStartedNavigating(const std::string& frameId, const std::wstring& url, const std::string& type);
 
     /// A request for a document stands ready. False when it must not go out. When it may, and has been sent on its way,
     /// OnRequestAllowed follows.

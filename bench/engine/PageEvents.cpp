@@ -76,8 +76,9 @@ void CPage::OnFrameNavigated(const Json& params)
 
 void CPage::OnFrameStartedNavigating(const Json& params)
 {
-    m_tracker.OnStartedNavigating(GetNarrowText(params, "frameId"), GetText(params, "url"),
-                                  GetNarrowText(params, "navigationType"));
+    const std::string frameId = GetNarrowText(params, "frameId");
+    if (!m_tracker.OnStartedNavigating(frameId, GetText(params, "url"), GetNarrowText(params, "navigationType")))
+        RunScript(frameId, "stop()");
 }
 
 void CPage::OnFrameStoppedLoading(const Json& params)

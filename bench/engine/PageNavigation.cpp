@@ -19,7 +19,7 @@ bool CPage::Navigate(const CNavigation& navigation)
     if (!m_tracker.BeginOwnNavigation(complete))
         return false;
     if (IsScriptUrl(complete.strUrl))
-        RunScriptAddress(complete);
+        RunScript(complete.strFrameId, ToUtf8(GetScriptOfUrl(complete.strUrl)));
     else
         Go(complete);
     return true;
@@ -28,6 +28,7 @@ bool CPage::Navigate(const CNavigation& navigation)
 void CPage::Go(const CNavigation& navigation)
 {
     m_ownNavigation = navigation;
+    m_view.OnStatusText({});
     Json params = {{"url", ToUtf8(navigation.strUrl)}};
     if (!m_frames.IsTop(navigation.strFrameId))
         params["frameId"] = navigation.strFrameId;
@@ -37,21 +38,24 @@ void CPage::Go(const CNavigation& navigation)
 
 void CPage::OnNavigateReply(const CNavigation& navigation, const std::optional<Json>& result)
 {
-    // An address that the engine doesn't know how to load is told by nothing else.
     const std::string error = result ? GetNarrowText(*result, "errorText") : "net::ERR_INVALID_URL";
-    if (error == "net::ERR_INVALID_URL" || error == "net::ERR_UNKNOWN_URL_SCHEME")
+    const bool bAborted = error == "net::ERR_ABORTED";
+    if (error.empty() || (bAborted && IsFetchedUrl(navigation.strUrl)))
+        return;
+    // An address that the engine doesn't know how to load is told by nothing else.
+    if (bAborted || error == "net::ERR_INVALID_URL")
         m_tracker.OnRefused(navigation.strFrameId, navigation.strUrl);
-    if (!error.empty() && error != "net::ERR_ABORTED")
-        m_view.OnStatusText(L"Can't reach " + navigation.strUrl + L" (" + FromUtf8(error) + L")");
+    std::wstring status = L"Can't reach " + navigation.strUrl;
+    if (!bAborted)
+        status.append(L" (").append(FromUtf8(error)).append(L")");
+    m_view.OnStatusText(status);
 }
 
-void CPage::RunScriptAddress(const CNavigation& navigation)
+void CPage::RunScript(const std::string& frameId, const std::string& script)
 {
-    const auto context = m_contexts.find(navigation.strFrameId);
-    if (context == m_contexts.end())
-        return;
-    Post("Runtime.evaluate",
-         {{"expression", ToUtf8(GetScriptOfUrl(navigation.strUrl))}, {"contextId", context->second}});
+    const auto context = m_contexts.find(frameId);
+    if (context != m_contexts.end())
+        Post("Runtime.evaluate", {{"expression", script}, {"contextId", context->second}});
 }
 
 CNavigation CPage::MakeNavigation(const Json& pausedRequest)
@@ -92,9 +96,7 @@ void CPage::ReloadFrame(const std::string& frameId)
 {
     if (m_frames.IsTop(frameId))
         return Reload();
-    const auto context = m_contexts.find(frameId);
-    if (context != m_contexts.end())
-        Post("Runtime.evaluate", {{"expression", "location.reload()"}, {"contextId", context->second}});
+    RunScript(frameId, "location.reload()");
 }
 
 void CPage::Stop()

@@ -47,7 +47,7 @@ std::wstring CompleteUrl(const std::wstring& text)
 
 bool IsFetchedUrl(const std::wstring& url)
 {
-    return BeginsWith(url, L"http:") || BeginsWith(url, L"https:");
+    return BeginsWith(url, L"http:") || BeginsWith(url, L"https:") || BeginsWith(url, L"file:");
 }
 
 bool IsScriptUrl(const std::wstring& url)

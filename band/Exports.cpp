@@ -2,6 +2,7 @@
 #include "band/TrelvixApp.h"
 #include "framework/ComBoundary.h"
 #include "framework/ComModule.h"
+#include "framework/ThreadStorage.h"
 
 #include <windows.h>
 
@@ -11,12 +12,15 @@ CComModule s_module;
 CTrelvixApp s_app;
 } // namespace
 
-BOOL WINAPI DllMain(HINSTANCE, DWORD dwReason, void*)
+BOOL WINAPI DllMain(HINSTANCE, DWORD dwReason, void* pProcessEnds)
 {
     if (dwReason == DLL_PROCESS_ATTACH)
         return s_app.InitInstance();
-    if (dwReason == DLL_PROCESS_DETACH)
-        s_app.ExitInstance();
+    if (dwReason != DLL_PROCESS_DETACH)
+        return TRUE;
+    s_app.ExitInstance();
+    if (pProcessEnds == nullptr)
+        FreeThreadStorage();
     return TRUE;
 }
 

@@ -27,7 +27,10 @@ static_assert(ToolbarStyle == 0x5401994F);
 
 CATLTrelvix::CATLTrelvix() = default;
 
-CATLTrelvix::~CATLTrelvix() = default;
+CATLTrelvix::~CATLTrelvix()
+{
+    ReleaseToolbarWindow();
+}
 
 STDMETHODIMP CATLTrelvix::SetSite(IUnknown* pUnkSite)
 {
@@ -76,17 +79,26 @@ bool CATLTrelvix::CreateToolbarWindow()
     RECT rect = {};
     GetClientRect(m_hWndParent, &rect);
     const CXPStyleContext style;
+    ReleaseToolbarWindow();
     m_pToolbarWindow.reset(new (std::nothrow) CTrelvixWindow);
     if (m_pToolbarWindow == nullptr)
         return false;
     m_pToolbarWindow->SetWebBrowser(m_pWebBrowser.Get());
     if (!m_pToolbarWindow->Create(ToolbarStyle, rect, m_hWndParent, ToolbarControlId))
     {
-        m_pToolbarWindow.reset();
+        ReleaseToolbarWindow();
         return false;
     }
     m_hWnd = m_pToolbarWindow->m_hWnd;
     return IsWindow(m_hWnd);
+}
+
+void CATLTrelvix::ReleaseToolbarWindow()
+{
+    // A call that is under way in the window may keep it beyond this band.
+    if (m_pToolbarWindow)
+        m_pToolbarWindow->SetBand(nullptr);
+    m_pToolbarWindow.reset();
 }
 
 ComPtr<IConnectionPoint> CATLTrelvix::FindEventPoint() const

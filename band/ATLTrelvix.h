@@ -84,6 +84,7 @@ private:
     HRESULT Connect(IUnknown* pUnkSite);
     bool FindParentWindow(IUnknown* pUnkSite);
     bool CreateToolbarWindow();
+    void ReleaseToolbarWindow();
     Microsoft::WRL::ComPtr<IConnectionPoint> FindEventPoint() const;
     void AdviseBrowserEvents();
     void UnadviseBrowserEvents();

@@ -38,7 +38,7 @@ STDMETHODIMP CATLTrelvix::CloseDW(DWORD)
     if (!IsWindow(m_hWnd))
         return S_OK;
     DestroyWindow(m_hWnd);
-    m_pToolbarWindow.reset();
+    ReleaseToolbarWindow();
     return S_OK;
 }
 

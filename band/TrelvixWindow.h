@@ -43,7 +43,8 @@ public:
     /// Creates the control with its image lists and the items of the stored layout.
     bool Create(DWORD dwStyle, const RECT& rect, HWND hWndParent, UINT nID) override;
 
-    /// Makes all items anew and puts those of the stored layout on the toolbar. Always true.
+    /// Makes all items anew and puts those of the stored layout on the toolbar. Always true. A call from inside another
+    /// one, from an item that is being made or placed, takes effect when that one is done.
     bool LoadLayout();
 
     /// Sends the browser to `pszUrl`, in a new tab or window if wanted. False when there is no browser or no new tab
@@ -96,7 +97,7 @@ public:
     /// The layout, closed by -1.
     const std::array<int, MaxLayoutEntries + 1>& GetOrder() const { return m_aOrder; }
 
-    /// The band that holds this window; not owned, the band clears nothing since it outlives the window.
+    /// The band that holds this window; not owned, the band takes itself away when it lets the window go.
     void SetBand(CATLTrelvix* pBand) { m_pBand = pBand; }
     CATLTrelvix* GetBand() const { return m_pBand; }
 
@@ -113,6 +114,7 @@ private:
                     EXCEPINFO* pExcepInfo, UINT* puArgErr);
     bool CreateReflexionWindow(const RECT& rect);
     void SetImageLists();
+    void MakeLayout();
     void CreateButtons();
     void DestroyButtons();
     void DeleteAllButtons();
@@ -170,4 +172,6 @@ private:
     CATLTrelvix* m_pBand = nullptr; ///< not owned
     UINT_PTR m_nTimerId = 0;        ///< never set, and meant so: the timer runs for the life of the window
     Microsoft::WRL::ComPtr<ITrelvixMSHTMLUIHandler> m_pUIHandler;
+    bool m_bMakingLayout = false;
+    bool m_bLayoutOutdated = false; ///< another layout was asked for while this one was being made
 };

@@ -49,6 +49,7 @@ HRESULT CTrelvixWindow::MoveFocus(bool bForward)
     const int nFocus = FindFocusPosition();
     if (nFocus == -1)
         return S_FALSE;
+    const auto spThis = Hold();
     const int nStep = bForward ? 1 : -1;
     for (int n = nFocus + nStep; n >= 0 && n < MaxLayoutEntries && m_aOrder[n] != -1; n += nStep)
     {

@@ -3,14 +3,41 @@
 #include "controls/IsolationAware.h"
 #include "settings/SettingsStore.h"
 
+#include <utility>
+
 namespace
 {
 /// Room around the images: less where a visual style draws its own wide arrow buttons.
 constexpr SIZE DefaultPadding = {7, 6};
 constexpr SIZE ThemedSplitPadding = {6, -2};
+
+/// Sets a flag for as long as it lives.
+class CFlagScope
+{
+public:
+    explicit CFlagScope(bool& bFlag) : m_bFlag(bFlag) { m_bFlag = true; }
+    CFlagScope(const CFlagScope&) = delete;
+    CFlagScope& operator=(const CFlagScope&) = delete;
+    ~CFlagScope() { m_bFlag = false; }
+
+private:
+    bool& m_bFlag;
+};
 } // namespace
 
 bool CTrelvixWindow::LoadLayout()
+{
+    m_bLayoutOutdated = true;
+    if (m_bMakingLayout)
+        return true;
+    const auto spThis = Hold();
+    const CFlagScope making(m_bMakingLayout);
+    while (std::exchange(m_bLayoutOutdated, false))
+        MakeLayout();
+    return true;
+}
+
+void CTrelvixWindow::MakeLayout()
 {
     ReadLayout();
     DeleteAllButtons();
@@ -18,7 +45,6 @@ bool CTrelvixWindow::LoadLayout()
     CreateButtons();
     SetPadding();
     PlaceButtons();
-    return true;
 }
 
 void CTrelvixWindow::ReadLayout()

@@ -43,8 +43,9 @@ void CFakeButtons::Reset()
 void CFakeButtons::Tell(int nIndex, const std::string& strCall)
 {
     m_calls.push_back(std::to_string(nIndex) + " " + strCall);
-    if (m_onCall)
-        m_onCall(std::string(m_calls.back()));
+    // A copy, since the test may set another within the call.
+    if (const auto onCall = m_onCall)
+        onCall(std::string(m_calls.back()));
 }
 
 CFakeButton::CFakeButton(int nIndex)
@@ -102,8 +103,9 @@ void CFakeButton::OnBrowserEvent(DISPID dispid, REFIID, LCID, WORD, DISPPARAMS*,
 
 bool CFakeButton::Place()
 {
+    CTrelvixButton::Place();
     Tell("Place");
-    return CTrelvixButton::Place();
+    return true;
 }
 
 bool CFakeButton::HasFocus()

@@ -73,6 +73,19 @@ size_t CountBlocks(HANDLE hHeap)
     return nBlocks;
 }
 
+} // namespace
+
+CResourceCensus CResourceCensus::Take()
+{
+    return {CountGdiObjects(), CountKernelHandles(), CountWindows()};
+}
+
+std::ostream& operator<<(std::ostream& stream, const CResourceCensus& census)
+{
+    return stream << census.nGdiObjects << " GDI objects, " << census.nKernelHandles << " kernel handles, "
+                  << census.nWindows << " windows";
+}
+
 size_t CountHeapBlocks()
 {
     HANDLE heaps[64];
@@ -81,16 +94,4 @@ size_t CountHeapBlocks()
     for (const HANDLE hHeap : std::span(heaps, nHeaps))
         nBlocks += CountBlocks(hHeap);
     return nBlocks;
-}
-} // namespace
-
-CResourceCensus CResourceCensus::Take()
-{
-    return {CountGdiObjects(), CountKernelHandles(), CountWindows(), CountHeapBlocks()};
-}
-
-std::ostream& operator<<(std::ostream& stream, const CResourceCensus& census)
-{
-    return stream << census.nGdiObjects << " GDI objects, " << census.nKernelHandles << " kernel handles, "
-                  << census.nWindows << " windows, " << census.nHeapBlocks << " heap blocks";
 }

@@ -65,7 +65,7 @@ TEST_F(ResourceCensus, SeesWindowsAtTheTopBelowItAndOfMessagesOnly)
 
 TEST_F(ResourceCensus, SeesMemoryThatWasAllocated)
 {
-    const size_t nBefore = CResourceCensus::Take().nHeapBlocks;
+    const size_t nBefore = CountHeapBlocks();
     const auto pMemory = std::make_unique<char[]>(100000);
-    EXPECT_LT(nBefore, CResourceCensus::Take().nHeapBlocks);
+    EXPECT_LT(nBefore, CountHeapBlocks());
 }

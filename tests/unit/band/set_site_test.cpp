@@ -5,6 +5,7 @@
 #include "framework/Wnd.h"
 #include "tests/fakes/BrowserEvent.h"
 #include "tests/unit/band/band_fixture.h"
+#include "tests/unit/controls/activation_context.h"
 
 #include <gmock/gmock.h>
 
@@ -13,6 +14,34 @@ using testing::ElementsAre;
 
 namespace
 {
+/// Sees whether a toolbar control of this thread is created while a manifest redirects the common controls.
+class CManifestWatch
+{
+public:
+    CManifestWatch() : m_hHook(SetWindowsHookExW(WH_CBT, &OnEvent, nullptr, GetCurrentThreadId()))
+    {
+        s_bRedirected = false;
+    }
+    CManifestWatch(const CManifestWatch&) = delete;
+    CManifestWatch& operator=(const CManifestWatch&) = delete;
+    ~CManifestWatch() { UnhookWindowsHookEx(m_hHook); }
+
+    bool IsRedirected() const { return s_bRedirected; }
+
+private:
+    static LRESULT CALLBACK OnEvent(int nCode, WPARAM wParam, LPARAM lParam)
+    {
+        wchar_t szClass[32] = {};
+        GetClassNameW(reinterpret_cast<HWND>(wParam), szClass, ARRAYSIZE(szClass));
+        if (nCode == HCBT_CREATEWND && std::wstring(szClass) == TOOLBARCLASSNAMEW)
+            s_bRedirected = AreCommonControlsRedirected();
+        return CallNextHookEx(nullptr, nCode, wParam, lParam);
+    }
+
+    static inline bool s_bRedirected = false;
+    HHOOK m_hHook;
+};
+
 class SetSite : public CBandTest
 {
 protected:
@@ -54,6 +83,14 @@ TEST_F(SetSite, GivesTheToolbarItsStyle)
 {
     Connect();
     EXPECT_EQ(0x5401994F, GetWindowLongPtrW(GetBandWindow(), GWL_STYLE) & ~static_cast<LONG_PTR>(WS_CLIPCHILDREN));
+}
+
+TEST_F(SetSite, CreatesTheToolbarUnderTheLibrarysManifest)
+{
+    const CManifestWatch watch;
+    Connect();
+    EXPECT_TRUE(watch.IsRedirected());
+    EXPECT_FALSE(AreCommonControlsRedirected()) << "it is out of force again";
 }
 
 TEST_F(SetSite, FillsTheSitesWindowWithTheToolbar)

@@ -48,7 +48,7 @@ STDMETHODIMP CBrowserBase::Navigate(BSTR bstrUrl, VARIANT* pvFlags, VARIANT* pvT
         return E_INVALIDARG;
     return ComBoundary([&] {
         return Go({.strFrameId = GetFrameId(),
-                   .strUrl = std::wstring(bstrUrl, SysStringLen(bstrUrl)),
+                   .strUrl = GetString(bstrUrl),
                    .strPostData = GetOptionalBytes(pvPostData),
                    .strHeaders = GetOptionalText(pvHeaders)},
                   GetOptionalNumber(pvFlags), GetOptionalText(pvTarget));

@@ -1,15 +1,23 @@
 #include "bench/com/Document.h"
 
 #include "bench/com/BrowserWindow.h"
-#include "bench/com/EnumUnknown.h"
+#include "bench/com/Element.h"
+#include "bench/com/ElementCollection.h"
+#include "bench/com/EventObject.h"
 #include "bench/com/Variants.h"
 #include "bench/com/WebBrowser.h"
+#include "bench/markup/DocumentMarkup.h"
 #include "framework/ComBoundary.h"
 
+using Microsoft::WRL::ComPtr;
+
 CDocument::CDocument(CWebBrowser& browser, const CPageFrame& frame)
-    : m_pBrowser(&browser), m_frameId(frame.strId), m_nDocument(frame.nDocument)
+    : m_pBrowser(&browser), m_frameId(frame.strId), m_nDocument(frame.nDocument),
+      m_pMarkup(std::make_unique<CDocumentMarkup>(*this))
 {
 }
+
+CDocument::~CDocument() = default;
 
 bool CDocument::IsOnShow() const
 {
@@ -19,13 +27,26 @@ bool CDocument::IsOnShow() const
     return pFrame && pFrame->nDocument == m_nDocument;
 }
 
+void CDocument::Detach()
+{
+    m_pBrowser = nullptr;
+    m_spUIHandler.Reset();
+}
+
 std::optional<Json> CDocument::Ask(const char* pszFunction, Json arguments)
 {
     if (!IsOnShow())
         return std::nullopt;
+    m_pMarkup->Flush();
     auto answer = m_pBrowser->GetPage().Ask(m_frameId, pszFunction, std::move(arguments));
     // Another document may have come while the question was on its way.
     return IsOnShow() ? std::move(answer) : std::nullopt;
+}
+
+void CDocument::Tell(const char* pszFunction, Json arguments)
+{
+    if (IsOnShow())
+        m_pBrowser->GetPage().Tell(m_frameId, pszFunction, std::move(arguments));
 }
 
 bool CDocument::IsOpenToTop()
@@ -36,32 +57,86 @@ bool CDocument::IsOpenToTop()
     return m_bOpenToTop.value_or(false);
 }
 
-HRESULT CDocument::GetTextProperty(const char* pszName, BSTR* pbstr)
+HRESULT CDocument::GetText(const char* pszName, BSTR* pbstr)
 {
     if (pbstr == nullptr)
         return E_POINTER;
     *pbstr = nullptr;
-    return ComBoundary([&]() -> HRESULT {
+    return ComBoundary([&] {
         const auto value = Ask("get", {pszName});
         if (!value)
-            return IsOnShow() ? E_FAIL : RPC_E_DISCONNECTED;
+            return GetFailure();
         return value->is_string() ? CopyText(FromUtf8(value->get<std::string>()), pbstr) : S_OK;
     });
 }
 
-STDMETHODIMP CDocument::get_URL(BSTR* pbstrUrl)
+STDMETHODIMP CDocument::put_title(BSTR bstrTitle)
 {
-    return GetTextProperty("URL", pbstrUrl);
+    return ComBoundary([&] { return Ask("put", {"title", ToUtf8(GetString(bstrTitle))}) ? S_OK : GetFailure(); });
 }
 
-STDMETHODIMP CDocument::get_title(BSTR* pbstrTitle)
+HRESULT CDocument::AskElement(const char* pszFunction, Json arguments, IHTMLElement** ppElement)
 {
-    return GetTextProperty("title", pbstrTitle);
+    if (ppElement == nullptr)
+        return E_POINTER;
+    *ppElement = nullptr;
+    return ComBoundary([&] {
+        const auto description = Ask(pszFunction, std::move(arguments));
+        if (!description)
+            return GetFailure();
+        return description->is_object() ? GetElement(*description).CopyTo(ppElement) : S_OK;
+    });
 }
 
-STDMETHODIMP CDocument::get_readyState(BSTR* pbstrState)
+ComPtr<CElement> CDocument::GetElement(const Json& description)
 {
-    return GetTextProperty("readyState", pbstrState);
+    const int nElement = GetNumber(description, "element", 0);
+    const auto known = m_elements.find(nElement);
+    if (known != m_elements.end())
+        return known->second;
+    auto spElement = MakeObject<CElement>(*this, nElement, GetNarrowText(description, "tag"));
+    m_elements[nElement] = spElement.Get();
+    return spElement;
+}
+
+void CDocument::ForgetElement(int nElement)
+{
+    m_elements.erase(nElement);
+    m_pMarkup->ReleaseElement(nElement);
+}
+
+HRESULT CDocument::GetCollection(std::string kind, IHTMLElementCollection** ppElements)
+{
+    if (ppElements == nullptr)
+        return E_POINTER;
+    *ppElements = nullptr;
+    return ComBoundary(
+        [&] { return MakeObject<CElementCollection>(*this, nullptr, std::move(kind)).CopyTo(ppElements); });
+}
+
+STDMETHODIMP CDocument::get_body(IHTMLElement** ppBody)
+{
+    return AskElement("elementOf", {0, "body"}, ppBody);
+}
+
+STDMETHODIMP CDocument::get_activeElement(IHTMLElement** ppElement)
+{
+    return AskElement("elementOf", {0, "activeElement"}, ppElement);
+}
+
+STDMETHODIMP CDocument::get_documentElement(IHTMLElement** ppElement)
+{
+    return AskElement("elementOf", {0, "documentElement"}, ppElement);
+}
+
+STDMETHODIMP CDocument::get_all(IHTMLElementCollection** ppAll)
+{
+    return GetCollection("all", ppAll);
+}
+
+STDMETHODIMP CDocument::getElementsByTagName(BSTR bstrTag, IHTMLElementCollection** ppElements)
+{
+    return GetCollection(ToUtf8(GetString(bstrTag)), ppElements);
 }
 
 STDMETHODIMP CDocument::GetWindow(HWND* phWnd)

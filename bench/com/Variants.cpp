@@ -17,7 +17,7 @@ _variant_t Convert(const VARIANT* pv, VARTYPE vt)
 std::wstring GetOptionalText(const VARIANT* pv)
 {
     const _variant_t value = Convert(pv, VT_BSTR);
-    return V_VT(&value) == VT_BSTR ? std::wstring(V_BSTR(&value), SysStringLen(V_BSTR(&value))) : std::wstring();
+    return V_VT(&value) == VT_BSTR ? GetString(V_BSTR(&value)) : std::wstring();
 }
 
 long GetOptionalNumber(const VARIANT* pv)
@@ -50,6 +50,11 @@ std::string GetOptionalBytes(const VARIANT* pv)
     std::string bytes(static_cast<const char*>(pBytes), static_cast<size_t>(nUpper - nLower + 1));
     SafeArrayUnaccessData(pArray);
     return bytes;
+}
+
+std::wstring GetString(BSTR bstr)
+{
+    return {bstr, bstr + SysStringLen(bstr)};
 }
 
 HRESULT CopyText(const std::wstring& text, BSTR* pbstr)

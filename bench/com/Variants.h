@@ -13,6 +13,9 @@ bool GetOptionalFlag(const VARIANT* pv, bool bFallback);
 /// The bytes of an array of VT_UI1; empty for anything else.
 std::string GetOptionalBytes(const VARIANT* pv);
 
+/// The text of a BSTR, empty for null.
+std::wstring GetString(BSTR bstr);
+
 /// Hands a text out as a BSTR; E_POINTER without an out pointer.
 HRESULT CopyText(const std::wstring& text, BSTR* pbstr);
 

@@ -1,6 +1,7 @@
 #include "bench/com/WebBrowser.h"
 
 #include "bench/com/BrowserWindow.h"
+#include "bench/com/ClientSite.h"
 #include "bench/com/Document.h"
 #include "bench/com/FrameBrowser.h"
 #include "bench/com/Variants.h"
@@ -13,7 +14,8 @@
 using Microsoft::WRL::ComPtr;
 
 CWebBrowser::CWebBrowser(IBrowserWindow& window, IPageView& view)
-    : m_pWindow(&window), m_page(*this, view), m_spEvents(MakeObject<CEventSource>(*this))
+    : m_pWindow(&window), m_page(*this, view), m_spEvents(MakeObject<CEventSource>(*this)),
+      m_spSite(MakeObject<CClientSite>(*this))
 {
 }
 
@@ -35,6 +37,7 @@ void CWebBrowser::Close()
     m_spEvents->Fire(DISPID_ONQUIT);
     m_page.Close();
     m_pWindow = nullptr;
+    m_spSite->Detach();
     for (const auto& [frameId, spDocument] : std::exchange(m_documents, {}))
         spDocument->Detach();
     for (const auto& [frameId, spFrame] : std::exchange(m_frames, {}))
@@ -66,6 +69,11 @@ ComPtr<CDocument> CWebBrowser::GetDocumentObject(const CPageFrame& frame)
     if (!spDocument)
         spDocument = MakeObject<CDocument>(*this, frame);
     return spDocument;
+}
+
+ComPtr<CClientSite> CWebBrowser::GetClientSite() const
+{
+    return m_spSite;
 }
 
 HRESULT CWebBrowser::GetDocument(const std::string& frameId, IDispatch** ppDocument)

@@ -15,6 +15,7 @@
 #include <map>
 #include <string>
 
+class CClientSite;
 class CDocument;
 class CEngine;
 class CFrameBrowser;
@@ -65,6 +66,11 @@ public:
     /// not look into it.
     HRESULT GetDocument(const std::string& frameId, IDispatch** ppDocument);
 
+    /// The same without that condition.
+    Microsoft::WRL::ComPtr<CDocument> GetDocumentObject(const CPageFrame& frame);
+    /// The site of the documents.
+    Microsoft::WRL::ComPtr<CClientSite> GetClientSite() const;
+
     STDMETHODIMP GoBack() override;
     STDMETHODIMP GoForward() override;
     STDMETHODIMP Quit() override;
@@ -96,8 +102,7 @@ private:
     void OnTitleChanged(const std::wstring& title) override;
     void OnFileDownload(const std::string& frameId) override;
     void OnHistoryChanged() override;
-
-    Microsoft::WRL::ComPtr<CDocument> GetDocumentObject(const CPageFrame& frame);
+    void OnScriptError(const CScriptError& error) override;
 
     /// An event whose arguments are the frame's browser and its address.
     void FireOfFrame(DISPID dispid, const std::string& frameId);
@@ -105,6 +110,7 @@ private:
     IBrowserWindow* m_pWindow;
     CPage m_page;
     Microsoft::WRL::ComPtr<CEventSource> m_spEvents;
+    Microsoft::WRL::ComPtr<CClientSite> m_spSite;
     std::map<std::string, Microsoft::WRL::ComPtr<CFrameBrowser>> m_frames; ///< below the top, by the engine's names
     std::map<std::string, Microsoft::WRL::ComPtr<CDocument>> m_documents;  ///< those on show that were asked for
     std::map<std::wstring, _variant_t> m_properties;

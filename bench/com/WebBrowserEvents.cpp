@@ -132,3 +132,10 @@ void CWebBrowser::OnHistoryChanged()
     tell(CSC_NAVIGATEBACK, m_page.CanGoBack());
     tell(CSC_NAVIGATEFORWARD, m_page.CanGoForward());
 }
+
+void CWebBrowser::OnScriptError(const CScriptError& error)
+{
+    const CPageFrame* const pFrame = m_page.GetFrames().Find(error.strFrameId);
+    if (pFrame != nullptr && !GetDocumentObject(*pFrame)->ReportScriptError(error))
+        m_page.StopScripts();
+}

@@ -43,6 +43,7 @@ bool CPage::Prepare()
     Post("Inspector.enable");
     Post("Emulation.setFocusEmulationEnabled", {{"enabled", true}});
     Post("Browser.setDownloadBehavior", {{"behavior", "deny"}});
+    Post("Runtime.addBinding", {{"name", "benchNavigate"}, {"executionContextName", WorldName}});
     Post("Page.addScriptToEvaluateOnNewDocument",
          {{"source", PageScript}, {"worldName", WorldName}, {"runImmediately", true}});
     // New windows stop before they fetch anything.

@@ -3,6 +3,7 @@
 #include "bench/engine/FrameTree.h"
 #include "bench/engine/Input.h"
 #include "bench/engine/LoadTracker.h"
+#include "bench/engine/ScriptError.h"
 #include "bench/protocol/Connection.h"
 
 #include <windows.h>
@@ -24,6 +25,7 @@ public:
     virtual void OnFileDownload(const std::string& frameId) = 0;
     /// Where the page can go back and forward to may have changed.
     virtual void OnHistoryChanged() = 0;
+    virtual void OnScriptError(const CScriptError& error) = 0;
 
 protected:
     ~IPageEvents() = default;
@@ -53,6 +55,8 @@ public:
     void Reload();
     void ReloadFrame(const std::string& frameId);
     void Stop();
+    /// The scripts of the page run no further; those of the next page do again.
+    void StopScripts();
 
     /// The history of the page. Nothing happens when there is no such entry.
     void GoBack() { GoInHistory(-1); }
@@ -88,6 +92,8 @@ public:
 
     /// Asks the frame's document by a function of page.js; none when the frame has gone or the function failed.
     std::optional<Json> Ask(const std::string& frameId, const char* pszFunction, Json arguments = Json::array());
+    /// The same without waiting for the answer.
+    void Tell(const std::string& frameId, const char* pszFunction, Json arguments);
 
     /// The frame that an element shows, an element by page.js of the frame's document; empty when it shows none.
     std::string GetFrameOfElement(const std::string& frameId, int nElement);
@@ -117,6 +123,8 @@ private:
     void OnContextCreated(const Json& params);
     void OnContextDestroyed(const Json& params);
     void OnContextsCleared(const Json& params);
+    void OnExceptionThrown(const Json& params);
+    void OnBindingCalled(const Json& params);
     void OnDomContentEvent(const Json& params);
     void OnDialogOpening(const Json& params);
     void OnWindowOpen(const Json& params);
@@ -125,7 +133,8 @@ private:
     void OnTargetCrashed(const Json& params);
 
     bool Prepare();
-    std::optional<Json> CallScript(const std::string& frameId, const char* pszFunction, Json arguments, bool bByValue);
+    Json MakeCall(const std::string& frameId, const char* pszFunction, Json arguments, bool bByValue) const;
+    std::optional<Json> CallScript(Json call);
     void Go(const CNavigation& navigation);
     void OnNavigateReply(const CNavigation& navigation, const std::optional<Json>& result);
     CNavigation MakeNavigation(const Json& pausedRequest);
@@ -155,6 +164,7 @@ private:
     int m_nHistoryLength = 0;
     bool m_bLoading = false;
     bool m_bFirstAddress = true;
+    bool m_bScriptsStopped = false;
 
     SIZE m_size = {};
     bool m_bPictures = false;

@@ -21,6 +21,8 @@ const std::map<std::string, CPage::Handler>& CPage::GetHandlers()
         {"Page.navigatedWithinDocument", &CPage::OnNavigatedWithinDocument},
         {"Page.screencastFrame", &CPage::OnScreencastFrame},
         {"Page.windowOpen", &CPage::OnWindowOpen},
+        {"Runtime.bindingCalled", &CPage::OnBindingCalled},
+        {"Runtime.exceptionThrown", &CPage::OnExceptionThrown},
         {"Runtime.executionContextCreated", &CPage::OnContextCreated},
         {"Runtime.executionContextDestroyed", &CPage::OnContextDestroyed},
         {"Runtime.executionContextsCleared", &CPage::OnContextsCleared},

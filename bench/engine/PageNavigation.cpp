@@ -55,7 +55,7 @@ void CPage::RunScript(const std::string& frameId, const std::string& script)
 {
     const auto context = m_contexts.find(frameId);
     if (context != m_contexts.end())
-        Post("Runtime.evaluate", {{"expression", script}, {"contextId", context->second}});
+        Post("Runtime.evaluate", {{"expression", script}, {"contextId", context->second}, {"userGesture", true}});
 }
 
 CNavigation CPage::MakeNavigation(const Json& pausedRequest)
@@ -118,6 +118,8 @@ void CPage::GoInHistory(int nSteps)
 
 void CPage::OnTopShown(const std::wstring& url)
 {
+    if (std::exchange(m_bScriptsStopped, false))
+        Post("Emulation.setScriptExecutionDisabled", {{"value", false}});
     // The empty page that every window begins with is no place to go back to.
     if (std::exchange(m_bFirstAddress, false))
         Post("Page.resetNavigationHistory");

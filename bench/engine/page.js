@@ -8,8 +8,6 @@ globalThis.bench = (() => {
     let lastNumber = 0;
 
     const numberOf = (element) => {
-        if (!element)
-            return 0;
         let number = numbers.get(element);
         if (!number)
             numbers.set(element, (number = ++lastNumber));
@@ -17,14 +15,61 @@ globalThis.bench = (() => {
         return number;
     };
 
+    /** What the browser's object of an element needs to know from the start. */
+    const describe = (element) =>
+        element ? { element: numberOf(element), tag: element.tagName.toUpperCase() } : null;
+
+    const embedded = () => Array.from(document.querySelectorAll("iframe, frame, object, embed, applet"));
+
+    /** The elements within an element or, by 0, the document: "all", "children", or those with a tag. */
+    const collect = (number, kind) => {
+        const owner = elements.get(number) ?? document;
+        if (kind === "children")
+            return owner.children;
+        return owner.getElementsByTagName(kind === "all" ? "*" : kind);
+    };
+
+    // Scripts in links are run by the browser, which asks its listeners first.
+    window.addEventListener("click", (event) => {
+        const link = event.composedPath().find((each) => each.localName === "a" || each.localName === "area");
+        if (event.defaultPrevented || !link?.href?.toLowerCase?.().startsWith("javascript:"))
+            return;
+        event.preventDefault();
+        benchNavigate(link.href);
+    });
+
     return {
         element: (number) => elements.get(number),
+
+        /** Holds an element under a number that the browser chose for it, below 0. */
+        hold(number, element) {
+            numbers.set(element, number);
+            elements.set(number, element);
+        },
 
         /** The browser holds the element no longer. */
         release: (number) => void elements.delete(number),
 
-        /** A property of the document. */
+        /** A property of the document, of its window, or of an element. */
         get: (name) => document[name],
+        getOfWindow: (name) => window[name],
+        getOf: (number, name) => elements.get(number)[name],
+        put: (name, value) => void (document[name] = value),
+        putOf: (number, name, value) => void (elements.get(number)[name] = value),
+
+        /** An element that a property of the document or of an element leads to. */
+        elementOf: (number, name) => describe((elements.get(number) ?? document)[name]),
+
+        getAttribute: (number, name) => elements.get(number).getAttribute(name),
+        setAttribute: (number, name, value) => elements.get(number).setAttribute(name, value),
+        getStyle: (number, name) => elements.get(number).style[name],
+        putStyle: (number, name, value) => void (elements.get(number).style[name] = value),
+        contains: (number, other) => elements.get(number).contains(elements.get(other)),
+        click: (number) => elements.get(number).click(),
+
+        count: (number, kind) => collect(number, kind).length,
+        item: (number, kind, index) => describe(collect(number, kind)[index]),
+        namedItem: (number, kind, name) => describe(collect(number, kind).namedItem(name)),
 
         /** Whether the top document may look into this one. */
         isOpenToTop() {
@@ -37,9 +82,14 @@ globalThis.bench = (() => {
 
         /** What is embedded, in document order: frames and other objects. */
         embeddings: () =>
-            Array.from(document.querySelectorAll("iframe, frame, object, embed, applet"), (element) => ({
-                element: numberOf(element),
-                isFrame: Boolean(element.contentWindow),
-            })),
+            embedded().map((element) => ({ ...describe(element), isFrame: Boolean(element.contentWindow) })),
+
+        /** The frames among them; a frame's number as an element, by its place or its name, 0 for none. */
+        frameCount: () => embedded().filter((element) => element.contentWindow).length,
+        frame(which) {
+            const frames = embedded().filter((element) => element.contentWindow);
+            const frame = typeof which === "number" ? frames[which] : frames.find((each) => each.name === which);
+            return frame ? numberOf(frame) : 0;
+        },
     };
 })();

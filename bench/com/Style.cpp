@@ -1,0 +1,40 @@
+#include "bench/com/Style.h"
+
+#include "bench/com/Element.h"
+
+CStyle::CStyle(CElement& element) : CDocumentPart(element.GetOwner()), m_spElement(&element) {}
+
+CStyle::~CStyle() = default;
+
+STDMETHODIMP CStyle::put_cssText(BSTR bstrText)
+{
+    return ComBoundary([&] {
+        return Tell("putStyle", {m_spElement->GetNumber(), "cssText", ToUtf8(GetString(bstrText))});
+    });
+}
+
+STDMETHODIMP CStyle::get_cssText(BSTR* pbstrText)
+{
+    return AskText("getStyle", {m_spElement->GetNumber(), "cssText"}, pbstrText);
+}
+
+STDMETHODIMP CStyle::put_zoom(VARIANT vZoom)
+{
+    return ComBoundary([&] {
+        return Tell("putStyle", {m_spElement->GetNumber(), "zoom", ToUtf8(GetOptionalText(&vZoom))});
+    });
+}
+
+STDMETHODIMP CStyle::get_zoom(VARIANT* pvZoom)
+{
+    if (pvZoom == nullptr)
+        return E_POINTER;
+    VariantInit(pvZoom);
+    BSTR bstrZoom = nullptr;
+    const HRESULT hr = AskText("getStyle", {m_spElement->GetNumber(), "zoom"}, &bstrZoom);
+    if (FAILED(hr))
+        return hr;
+    V_VT(pvZoom) = VT_BSTR;
+    V_BSTR(pvZoom) = bstrZoom;
+    return S_OK;
+}

@@ -100,6 +100,8 @@ std::wstring CEventListener::Describe(const VARIANT& argument) const
         return *V_BOOLREF(&argument) != VARIANT_FALSE ? std::wstring(L"cancelled") : std::wstring();
     case VT_BOOL:
         return V_BOOL(&argument) != VARIANT_FALSE ? L"true" : L"false";
+    case VT_I4:
+        return std::to_wstring(V_I4(&argument));
     default:
         return {};
     }

@@ -10,6 +10,8 @@ namespace
 {
 constexpr int IconPartX = 8;
 constexpr int ArrowPartX = 6;
+constexpr int ChevronX = 8;
+constexpr wchar_t MenuClass[] = L"#32768";
 
 void SendMouse(DWORD dwFlags)
 {
@@ -56,6 +58,18 @@ void CScriptRunner::DropDown(const Arguments& arguments)
 {
     const RECT rect = GetButtonRect(std::stoi(arguments[0]), true);
     ClickScreen({rect.right - ArrowPartX, (rect.top + rect.bottom) / 2});
+}
+
+void CScriptRunner::OpenChevron(const Arguments&)
+{
+    RECT rect = {};
+    OnTab([&](CTabWindow& window) { GetWindowRect(GetParent(FindToolbar(window)), &rect); });
+    ClickScreen({rect.right - ChevronX, (rect.top + rect.bottom) / 2});
+}
+
+void CScriptRunner::ExpectMenu(const Arguments&)
+{
+    WaitUntil([] { return IsWindowVisible(FindWindowW(MenuClass, nullptr)) != FALSE; }, L"no menu is open");
 }
 
 void CScriptRunner::MovePointer(const Arguments& arguments)

@@ -74,6 +74,7 @@ void CScriptRunner::WaitForLoad(const Arguments&)
         return !GetState().bLoading && m_host.GetJournal().Find(line, m_nMark) < m_host.GetJournal().GetCount();
     };
     WaitUntil(isLoaded, L"the page doesn't finish loading");
+    Settle();
 }
 
 void CScriptRunner::WaitForEvent(const Arguments& arguments)

@@ -2,7 +2,7 @@
 
 #include "bench/script/EventJournal.h"
 #include "bench/window/FrameWindow.h"
-#include "bench/window/Tab.h"
+#include "bench/window/TabWindow.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -47,6 +47,8 @@ const CScriptRunner::CStepRow CScriptRunner::stepTable[] = {
     {L"key", L"KEYS", &CScriptRunner::PressKey},
     {L"press", L"INDEX", &CScriptRunner::PressButton},
     {L"drop-down", L"INDEX", &CScriptRunner::DropDown},
+    {L"open-chevron", L"", &CScriptRunner::OpenChevron},
+    {L"expect-menu", L"", &CScriptRunner::ExpectMenu},
     {L"expect-focus", L"address|toolbar|page", &CScriptRunner::ExpectFocus},
     {L"move-pointer", L"X Y", &CScriptRunner::MovePointer},
     {L"open-window", L"[ADDRESS]", &CScriptRunner::OpenWindow},
@@ -182,6 +184,14 @@ void CScriptRunner::WaitUntil(const std::function<bool()>& condition, const std:
             throw CStepError {what};
         Sleep(PollMs);
     }
+}
+
+void CScriptRunner::Settle()
+{
+    // The picture is the engine's last answer; the tab takes what came before it with its next messages.
+    OnTab([](CTabWindow& window) { window.FinishDrawing(); });
+    OnTab([](CTabWindow&) {});
+    OnFrame([](CFrameWindow& frame) { RedrawWindow(frame, nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN); });
 }
 
 void CScriptRunner::Mark()

@@ -62,6 +62,8 @@ private:
     void PressKey(const Arguments& arguments);
     void PressButton(const Arguments& arguments);
     void DropDown(const Arguments& arguments);
+    void OpenChevron(const Arguments& arguments);
+    void ExpectMenu(const Arguments& arguments);
     void ExpectFocus(const Arguments& arguments);
     void MovePointer(const Arguments& arguments);
 
@@ -96,6 +98,8 @@ private:
     void ClickInPage(const std::wstring& elementExpression, const std::wstring& what);
     RECT GetButtonRect(int nIndex, bool bScreen);
     void ClickScreen(POINT point);
+    /// Waits until all that the engine has told so far has reached the window.
+    void Settle();
     /// From here on later events count.
     void Mark();
 

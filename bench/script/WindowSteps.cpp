@@ -114,9 +114,7 @@ void CScriptRunner::TakePicture(const Arguments& arguments)
 {
     const HWND hWnd = GetFrameWindow();
     const std::filesystem::path path = std::filesystem::path(m_strOutput) / (arguments[0] + L".png");
-    // What has been asked for is drawn before the picture is taken.
-    OnTab([](CTabWindow& window) { window.FinishDrawing(); });
-    OnFrame([](CFrameWindow& frame) { RedrawWindow(frame, nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN); });
+    Settle();
     RECT rect = {};
     GetWindowRect(hWnd, &rect);
     if (!SavePicture(CaptureScreen(rect).get(), path.wstring()))

@@ -10,6 +10,7 @@ constexpr CListedPage listedPages[] = {
     {L"forms.html", L"Forms"},
     {L"images.html", L"Images"},
     {L"languages.html", L"Other Scripts"},
+    {L"links.html", L"Links"},
     {L"script-error.html", L"Script Errors"},
     {L"commands.html", L"Commands to the Toolbar"},
 };

@@ -121,8 +121,12 @@ void CFrameWindow::Layout()
         tab->Post([area, bShow = tab == m_activeTab](CTabWindow& window) { window.Place(area, bShow); });
 }
 
-LRESULT CFrameWindow::OnEraseBackground(WPARAM, LPARAM)
+LRESULT CFrameWindow::OnEraseBackground(WPARAM wParam, LPARAM)
 {
+    // Its children with transparent parts have their background drawn by this message.
+    RECT rect = {};
+    GetClientRect(m_hWnd, &rect);
+    FillRect(reinterpret_cast<HDC>(wParam), &rect, GetSysColorBrush(COLOR_BTNFACE));
     return TRUE;
 }
 

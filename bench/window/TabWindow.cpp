@@ -120,8 +120,12 @@ void CTabWindow::OnChevronPushed(NMHDR* pHeader, LRESULT*)
     m_rebar.OnChevron(*reinterpret_cast<const NMREBARCHEVRON*>(pHeader));
 }
 
-LRESULT CTabWindow::OnEraseBackground(WPARAM, LPARAM)
+LRESULT CTabWindow::OnEraseBackground(WPARAM wParam, LPARAM)
 {
+    // Its children with transparent parts have their background drawn by this message.
+    RECT rect = {};
+    GetClientRect(m_hWnd, &rect);
+    FillRect(reinterpret_cast<HDC>(wParam), &rect, GetSysColorBrush(COLOR_BTNFACE));
     return TRUE;
 }
 

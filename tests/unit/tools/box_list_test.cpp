@@ -152,3 +152,14 @@ TEST_F(BoxList, SurvivesThatASelectionMakesAllItemsAnew)
     EXPECT_FALSE(IsWindow(hWndBox));
     EXPECT_EQ(L"Google Search (Alt+Q)", GetBoxText(Box));
 }
+
+TEST_F(BoxList, SurvivesThatAClickMakesAllItemsAnew)
+{
+    const HWND hWndBox = GetBox(Box);
+    SetWindowTextW(hWndBox, L"typed");
+    CFakeCalls::Get().ActIn("WebBrowser.Navigate", [&] { GetToolbar().LoadLayout(); });
+    ClickArrow();
+    ClickEntry(0);
+    EXPECT_FALSE(IsWindow(hWndBox));
+    EXPECT_EQ(L"Google Search (Alt+Q)", GetBoxText(Box));
+}

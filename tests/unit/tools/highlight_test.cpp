@@ -235,6 +235,26 @@ TEST_F(Highlight, MakesItsCallsInOrder)
                             "MarkupPointer.FindText", "HtmlDocument.get_frames", "FramesCollection.get_length"));
 }
 
+TEST_F(Highlight, SurvivesThatItsItemGoesMeanwhile)
+{
+    for (const char* pszCall : {"WebBrowser.get_Document", "MarkupPointer.FindText", "FramesCollection.get_length"})
+    {
+        ShowPage(L"a word and a word");
+        Type(Box, L"word");
+        CFakeCalls::Get().ActIn(pszCall, [&] { GetToolbar().LoadLayout(); });
+        EXPECT_EQ(S_OK, PressKey(Box, VK_RETURN));
+        EXPECT_THAT(GetMarks(*m_spPage.Get()), ElementsAre(L"word", L"word")) << pszCall;
+    }
+}
+
+TEST_F(Highlight, SurvivesThatThePageGoesMeanwhile)
+{
+    ShowPage(L"a word and a word");
+    CFakeCalls::Get().ActIn("MarkupPointer.FindText", [&] { ShowPage(L"another word"); });
+    EXPECT_TRUE(GetItem(Box).Search(L"word"));
+    EXPECT_THAT(GetMarks(*m_spPage.Get()), IsEmpty());
+}
+
 TEST_F(Highlight, DoesNothingForAnEmptyBox)
 {
     ShowPage(L"a word");

@@ -318,6 +318,19 @@ TEST_F(Zoom, FailsWithoutABrowser)
     GetToolbar().SetWebBrowser(m_spBrowser.Get());
 }
 
+TEST_F(Zoom, SurvivesThatItsItemGoesMeanwhile)
+{
+    for (const char* pszCall : {"WebBrowser.get_Document", "Element.get_all", "FramesCollection.get_length"})
+    {
+        const auto spFrame = AddFrame(ShowPage(L"page"), L"frame");
+        Type(Box, L"150");
+        CFakeCalls::Get().ActIn(pszCall, [&] { GetToolbar().LoadLayout(); });
+        EXPECT_EQ(S_OK, PressKey(Box, VK_RETURN));
+        EXPECT_THAT(GetZooms(), ElementsAre(L"150%")) << pszCall;
+        EXPECT_THAT(::GetZooms(*spFrame.Get()), ElementsAre(L"150%")) << pszCall;
+    }
+}
+
 TEST_F(Zoom, RefusesWhileThePageLoads)
 {
     ShowPage(L"text");

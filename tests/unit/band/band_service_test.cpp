@@ -11,14 +11,20 @@ namespace
 {
 constexpr WORD French = 0x0C;
 
+/// A name that no other process uses at the same time.
+std::wstring GetOwnName()
+{
+    return L"TrelvixBandServiceTest" + std::to_wstring(GetCurrentProcessId());
+}
+
 /// Stands an empty tree in the place of the machine's part of the registry, for this process.
 class CMachineRegistry
 {
 public:
     CMachineRegistry()
     {
-        RegCreateKeyExW(HKEY_CURRENT_USER, Path, 0, nullptr, REG_OPTION_VOLATILE, KEY_ALL_ACCESS, nullptr, &m_hKey,
-                        nullptr);
+        RegCreateKeyExW(HKEY_CURRENT_USER, m_strPath.c_str(), 0, nullptr, REG_OPTION_VOLATILE, KEY_ALL_ACCESS, nullptr,
+                        &m_hKey, nullptr);
         RegOverridePredefKey(HKEY_LOCAL_MACHINE, m_hKey);
     }
     CMachineRegistry(const CMachineRegistry&) = delete;
@@ -27,7 +33,7 @@ public:
     {
         RegOverridePredefKey(HKEY_LOCAL_MACHINE, nullptr);
         RegCloseKey(m_hKey);
-        RegDeleteTreeW(HKEY_CURRENT_USER, Path);
+        RegDeleteTreeW(HKEY_CURRENT_USER, m_strPath.c_str());
     }
 
     void Set(const wchar_t* pszKey, const wchar_t* pszName, const std::wstring& strValue) const
@@ -40,7 +46,7 @@ public:
     }
 
 private:
-    static constexpr wchar_t Path[] = L"Software\\TrelvixBandServiceTest";
+    const std::wstring m_strPath = L"Software\\" + GetOwnName();
     HKEY m_hKey = nullptr;
 };
 
@@ -48,7 +54,7 @@ private:
 class CInstallation
 {
 public:
-    CInstallation() : m_path(std::filesystem::temp_directory_path() / L"TrelvixBandServiceTest")
+    CInstallation() : m_path(std::filesystem::temp_directory_path() / GetOwnName())
     {
         std::filesystem::create_directories(m_path / L"Languages");
         std::ofstream pack(m_path / L"Languages" / L"FRENCH.lang", std::ios::binary);

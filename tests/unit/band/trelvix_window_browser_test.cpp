@@ -1,11 +1,8 @@
-// What the toolbar asks of the browser: navigations, the document's handler, the side bar.
+// What the toolbar asks of the browser: navigations and the side bar.
 
 #include "band/InfoBarHelper.h"
 #include "band/TrelvixWindow.h"
 #include "framework/HostVersion.h"
-#include "tests/fakes/BrowserEvent.h"
-#include "tests/fakes/FakeClientSite.h"
-#include "tests/fakes/FakeDocument.h"
 #include "tests/unit/band/band_fixture.h"
 
 #include <gmock/gmock.h>
@@ -92,7 +89,6 @@ TEST_F(ToolbarBrowser, IsSentNowhereWhenThereIsNone)
     ConnectWithoutBrowser();
     EXPECT_FALSE(GetToolbar().NavigateTo(L"http://page.test/", false));
     EXPECT_FALSE(GetToolbar().NavigateTo(nullptr, true));
-    EXPECT_FALSE(GetToolbar().InstallUIHandler());
     EXPECT_FALSE(GetToolbar().IsInfoBarOpen());
 }
 
@@ -102,116 +98,6 @@ TEST_F(ToolbarBrowser, IsSentANullAddressAsItStands)
     EXPECT_TRUE(GetToolbar().NavigateTo(nullptr, false));
     ASSERT_EQ(1u, m_spBrowser->m_navigations.size());
     EXPECT_EQ(L"", m_spBrowser->m_navigations.front().strUrl);
-}
-
-namespace
-{
-class DocumentHandler : public ToolbarBrowser
-{
-protected:
-    void SetUp() override
-    {
-        m_spDocument->m_spClientSite = static_cast<IOleClientSite*>(m_spClientSite.Get());
-        m_spBrowser->m_spDocument = static_cast<IHTMLDocument2*>(m_spDocument.Get());
-        Connect();
-        CFakeCalls::Get().ClearLog();
-    }
-
-    void TearDown() override
-    {
-        m_spDocument->m_spUIHandler.Reset();
-        m_spBrowser->m_spDocument.Reset();
-        ToolbarBrowser::TearDown();
-    }
-
-    bool Install() { return GetToolbar().InstallUIHandler(); }
-    bool IsInstalled() const { return m_spDocument->m_spUIHandler != nullptr; }
-
-    const ComPtr<CFakeDocument> m_spDocument = MakeFake<CFakeDocument>();
-    const ComPtr<CFakeClientSite> m_spClientSite = MakeFake<CFakeClientSite>();
-};
-} // namespace
-
-TEST_F(DocumentHandler, IsPutBetweenDocumentAndBrowser)
-{
-    EXPECT_TRUE(Install());
-    EXPECT_TRUE(IsInstalled());
-    EXPECT_THAT(GetBrowserCalls(),
-                ElementsAre("WebBrowser.get_Document", "Document.GetClientSite", "Document.SetUIHandler"));
-}
-
-TEST_F(DocumentHandler, HandsOnToTheDocumentsOwnSite)
-{
-    ASSERT_TRUE(Install());
-    CFakeCalls::Get().ClearLog();
-    m_spDocument->m_spUIHandler->UpdateUI();
-    EXPECT_THAT(GetBrowserCalls(), ElementsAre("ClientSite.UpdateUI"));
-}
-
-TEST_F(DocumentHandler, IsNewAfterEachNavigation)
-{
-    CBrowserEvent event = CBrowserEvent::NavigateComplete2(m_spBrowser->AsFrame(), L"http://page.test/");
-    m_spBrowser->Fire(event);
-    const ComPtr<IDocHostUIHandler> spFirst = m_spDocument->m_spUIHandler;
-    EXPECT_NE(nullptr, spFirst);
-    m_spBrowser->Fire(event);
-    EXPECT_NE(spFirst.Get(), m_spDocument->m_spUIHandler.Get());
-}
-
-TEST_F(DocumentHandler, OutlivesTheToolbar)
-{
-    ASSERT_TRUE(Install());
-    m_spBand->CloseDW(0);
-    GiveSite(nullptr);
-    m_spDocument->m_spUIHandler->UpdateUI();
-    ComPtr<IOleCommandTarget> spTarget;
-    ASSERT_EQ(S_OK, m_spDocument->m_spUIHandler.As(&spTarget));
-    constexpr DWORD showScriptError = 40;
-    constexpr GUID documentCommands = {0xf38bc242, 0xb950, 0x11d1, {0x89, 0x18, 0x00, 0xc0, 0x4f, 0xc2, 0xc8, 0x36}};
-    VARIANT in = {};
-    VARIANT out = {};
-    spTarget->Exec(&documentCommands, showScriptError, 0, &in, &out);
-    EXPECT_EQ(1u, CFakeCalls::Get().CountOf("ClientSite.Exec")) << "without a toolbar it goes to the browser";
-}
-
-TEST_F(DocumentHandler, IsNotInstalledWithoutADocument)
-{
-    m_spBrowser->m_spDocument.Reset();
-    EXPECT_FALSE(Install());
-}
-
-TEST_F(DocumentHandler, IsNotInstalledInADocumentThatLacksAnInterface)
-{
-    for (const IID& iid : {IID_ICustomDoc, IID_IOleObject, IID_IHTMLDocument2})
-    {
-        m_spDocument->Lack(iid);
-        EXPECT_FALSE(Install());
-        EXPECT_FALSE(IsInstalled());
-    }
-}
-
-TEST_F(DocumentHandler, IsNotInstalledInADocumentWithoutASite)
-{
-    m_spDocument->m_spClientSite.Reset();
-    EXPECT_FALSE(Install());
-    EXPECT_FALSE(IsInstalled());
-}
-
-TEST_F(DocumentHandler, IsNotInstalledWhenItsClassIsUnknown)
-{
-    m_module.RevokeClasses();
-    EXPECT_FALSE(Install());
-    EXPECT_THAT(GetBrowserCalls(), ElementsAre());
-}
-
-TEST_F(DocumentHandler, IsInstalledOrNotWhateverCallFails)
-{
-    for (const HRESULT hr : {E_FAIL, E_ACCESSDENIED, E_OUTOFMEMORY, RPC_E_DISCONNECTED, S_OK})
-        ForEachFailingCall(hr, [&] {
-            m_spDocument->m_spUIHandler.Reset();
-            EXPECT_TRUE(Install() || hr == S_OK || CFakeCalls::Get().HasFailed());
-        });
-    EXPECT_TRUE(IsInstalled()) << "at last no call failed";
 }
 
 namespace
@@ -314,7 +200,7 @@ TEST_F(InfoBar, IsNotOpenWhenTheBrowserFails)
 
 TEST_F(InfoBar, StandsWhereItsWindowStands)
 {
-    m_frame.Show();
+    ShowWindow(m_frame, SW_SHOWNA);
     const auto spBar = PublishBar(m_frame);
     RECT expected = {};
     GetWindowRect(m_frame, &expected);
@@ -351,7 +237,7 @@ TEST_F(InfoBar, StandsNowhereWhenItIsNotPublished)
 
 TEST_F(InfoBar, StandsNowhereForAWindowWithoutABand)
 {
-    m_frame.Show();
+    ShowWindow(m_frame, SW_SHOWNA);
     const auto spBar = PublishBar(m_frame);
     CTrelvixWindow window;
     window.SetWebBrowser(m_spBrowser.Get());

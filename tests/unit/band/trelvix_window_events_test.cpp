@@ -1,7 +1,6 @@
 // The browser's events on their way to the items.
 
 #include "tests/fakes/BrowserEvent.h"
-#include "tests/fakes/FakeDocument.h"
 #include "tests/unit/band/window_fixture.h"
 
 #include <gmock/gmock.h>
@@ -102,14 +101,4 @@ TEST_F(ToolbarEvents, HaveOneNotificationThatGoesNowhere)
     ConnectWith({6});
     static_cast<ITVXEvents&>(GetToolbar()).OnSpareEvent();
     EXPECT_THAT(GetItems().TakeCalls(), IsEmpty());
-}
-
-TEST_F(ToolbarEvents, OfAScriptErrorReachEachVisibleItemInTheOrderOfTheTable)
-{
-    ConnectWith({9, 2, 9});
-    bool bContinueScripts = true;
-    bool bNotHandled = true;
-    const auto spDocument = MakeFake<CFakeDocument>();
-    GetToolbar().FireScriptError(spDocument.Get(), &bContinueScripts, &bNotHandled);
-    EXPECT_THAT(GetItems().TakeCalls(), ElementsAre("0 OnScriptError", "2 OnScriptError", "9 OnScriptError"));
 }

@@ -4,6 +4,22 @@
 #include <cstring>
 #include <utility>
 
+namespace
+{
+/// Copies units, which need not be aligned, up to and including the first line feed. How many were copied.
+template <class Unit>
+std::size_t CopyLine(const BYTE* pBytes, std::size_t nMax, Unit* pUnits)
+{
+    for (std::size_t n = 0; n < nMax; ++n)
+    {
+        std::memcpy(&pUnits[n], pBytes + n * sizeof(Unit), sizeof(Unit));
+        if (pUnits[n] == Unit('\n'))
+            return n + 1;
+    }
+    return nMax;
+}
+} // namespace
+
 CStdioFile::~CStdioFile()
 {
     try
@@ -98,12 +114,14 @@ template <class Unit>
 std::size_t CStdioFile::ReadUnits(Unit* pUnits, std::size_t nMax)
 {
     std::size_t nRead = 0;
-    bool bLineFeed = false;
-    while (nRead < nMax && !bLineFeed && FillTo(sizeof(Unit)))
+    while (nRead < nMax && FillTo(sizeof(Unit)))
     {
-        std::memcpy(&pUnits[nRead], &m_buffer[m_nNext], sizeof(Unit));
-        m_nNext += sizeof(Unit);
-        bLineFeed = pUnits[nRead++] == Unit('\n');
+        const std::size_t nChunk = std::min<std::size_t>(nMax - nRead, GetUnread() / sizeof(Unit));
+        const std::size_t nCopied = CopyLine(&m_buffer[m_nNext], nChunk, pUnits + nRead);
+        m_nNext += static_cast<UINT>(nCopied * sizeof(Unit));
+        nRead += nCopied;
+        if (pUnits[nRead - 1] == Unit('\n'))
+            break;
     }
     return nRead;
 }

@@ -47,7 +47,7 @@ private:
     void Flush();
 
     // Bytes read ahead, or bytes that wait to be written, never both.
-    std::array<BYTE, 4096> m_buffer;
+    std::array<BYTE, 16384> m_buffer;
     UINT m_nNext = 0;
     UINT m_nFilled = 0;
     UINT m_nPending = 0;

@@ -10,6 +10,7 @@
 #include <memory>
 #include <memory_resource>
 #include <unordered_map>
+#include <utility>
 
 namespace
 {
@@ -17,13 +18,11 @@ constexpr UINT PackOpenFlags = CFile::modeRead | CFile::shareDenyWrite | CFile::
 constexpr UINT SubmenuId = static_cast<UINT>(-1);
 constexpr UINT NoSuchItem = static_cast<UINT>(-1);
 
-/// The texts of a pack by their ids.
-class CTranslationMap
+/// The texts of a pack by their ids. All are dropped together, so they share memory that is given back at the end only.
+struct CTranslationMap
 {
-    std::pmr::unsynchronized_pool_resource m_nodes {{.max_blocks_per_chunk = 10, .largest_required_pool_block = 0}};
-
-public:
-    std::pmr::unordered_map<unsigned, std::wstring> m_texts {1000, &m_nodes};
+    std::pmr::monotonic_buffer_resource memory;
+    std::pmr::unordered_map<unsigned, std::pmr::wstring> texts {1000, &memory};
 };
 
 std::unique_ptr<CTranslationMap> translationMap;
@@ -38,11 +37,15 @@ std::wstring InInstallFolder(const std::wstring& file)
     return installFolder + (needsSeparator ? L"\\" : L"") + file;
 }
 
-void StoreEntry(const std::wstring& line)
+/// The buffer lends its memory from line to line.
+void StoreEntry(const std::wstring& line, std::wstring& buffer)
 {
     const auto entry = ParsePackLine(line);
-    if (entry && entry->id != 0)
-        translationMap->m_texts.insert_or_assign(entry->id, UnescapePackText(entry->text));
+    if (!entry || entry->id == 0)
+        return;
+    buffer = entry->text;
+    buffer = UnescapePackText(std::move(buffer));
+    translationMap->texts[entry->id] = buffer;
 }
 
 bool LoadPack(const std::wstring& path)
@@ -55,8 +58,10 @@ bool LoadPack(const std::wstring& path)
     }
     try
     {
-        for (std::wstring line; file.ReadString(line);)
-            StoreEntry(line);
+        std::wstring line;
+        std::wstring buffer;
+        while (file.ReadString(line))
+            StoreEntry(line, buffer);
         return true;
     }
     catch (const CFileException&)
@@ -65,12 +70,12 @@ bool LoadPack(const std::wstring& path)
     }
 }
 
-const std::wstring* FindInPack(unsigned id)
+const std::pmr::wstring* FindInPack(unsigned id)
 {
     if (!translationMap || activeLanguage == 0)
         return nullptr;
-    const auto entry = translationMap->m_texts.find(id);
-    return entry == translationMap->m_texts.end() ? nullptr : &entry->second;
+    const auto entry = translationMap->texts.find(id);
+    return entry == translationMap->texts.end() ? nullptr : &entry->second;
 }
 
 bool OpenPack(CStdioFileEx& pack, const std::wstring& file)
@@ -85,7 +90,7 @@ bool FindInPackFile(CStdioFileEx& pack, std::wstring& out, unsigned id)
         const auto entry = ParsePackLine(line);
         if (entry && entry->id == id)
         {
-            out = UnescapeSingleText(entry->text);
+            out = UnescapeSingleText(std::wstring(entry->text));
             return true;
         }
     }
@@ -137,7 +142,7 @@ std::uint16_t GetRequestedLanguage()
 
 int LoadTranslatedString(std::wstring& out, unsigned id)
 {
-    if (const std::wstring* text = FindInPack(id))
+    if (const std::pmr::wstring* text = FindInPack(id))
     {
         out = *text;
         return TRUE;

@@ -26,14 +26,16 @@ std::optional<PackEntry> ParsePackLine(std::wstring_view line)
                       hasText ? line.substr(token.size() + 1) : std::wstring_view()};
 }
 
-std::wstring UnescapePackText(std::wstring_view text)
+std::wstring UnescapePackText(std::wstring text)
 {
-    std::wstring shown = ReplaceAll(std::wstring(text), L"\\r\\n", L"\r\n");
-    shown = ReplaceAll(std::move(shown), L"\\n", L"\n");
-    return ReplaceAll(std::move(shown), L"\\t", L"\t");
+    if (text.find(L'\\') == text.npos) // most texts have no escape
+        return text;
+    text = ReplaceAll(std::move(text), L"\\r\\n", L"\r\n");
+    text = ReplaceAll(std::move(text), L"\\n", L"\n");
+    return ReplaceAll(std::move(text), L"\\t", L"\t");
 }
 
-std::wstring UnescapeSingleText(std::wstring_view text)
+std::wstring UnescapeSingleText(std::wstring text)
 {
-    return ReplaceAll(std::wstring(text), L"\\n\\r", L"\n\r");
+    return ReplaceAll(std::move(text), L"\\n\\r", L"\n\r");
 }

@@ -17,7 +17,7 @@ struct PackEntry
 std::optional<PackEntry> ParsePackLine(std::wstring_view line);
 
 /// The text of an entry as it is shown, when the whole pack is loaded.
-std::wstring UnescapePackText(std::wstring_view text);
+std::wstring UnescapePackText(std::wstring text);
 
 /// The text of an entry that is read from a pack by itself: deliberately, "\n\r" is then the one escape.
-std::wstring UnescapeSingleText(std::wstring_view text);
+std::wstring UnescapeSingleText(std::wstring text);

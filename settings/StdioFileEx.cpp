@@ -13,6 +13,12 @@ bool StartsWithWideMark(CFile& file)
     WORD word = 0;
     return file.Read(&word, sizeof(word)) == sizeof(word) && word == WideMark;
 }
+/// A line ends at its line feed, if it has one.
+template <class Unit>
+std::basic_string_view<Unit> WithoutLineFeed(std::basic_string_view<Unit> line)
+{
+    return line.ends_with(Unit('\n')) ? line.substr(0, line.size() - 1) : line;
+}
 } // namespace
 
 bool CStdioFileEx::Open(const std::wstring& fileName, UINT nOpenFlags, CFileException* pError)
@@ -87,7 +93,7 @@ bool CStdioFileEx::ReadWideLine(std::wstring& line)
 {
     std::wstring longLine;
     const std::wstring_view read = ReadLine(wideBuffer, longLine);
-    line = read.substr(0, read.find(L'\n'));
+    line = WithoutLineFeed(read);
     return !read.empty();
 }
 
@@ -95,7 +101,7 @@ bool CStdioFileEx::ReadNarrowLine(std::wstring& line)
 {
     std::string longLine;
     const std::string_view read = ReadLine(narrowBuffer, longLine);
-    ConvertToWide(read.substr(0, read.find('\n')), line);
+    ConvertToWide(WithoutLineFeed(read), line);
     return !read.empty();
 }
 

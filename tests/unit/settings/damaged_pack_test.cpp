@@ -79,7 +79,7 @@ std::map<unsigned, std::wstring> EntriesOf(const std::string& strBytes)
         strLine.resize(std::min(strLine.find(L'\0'), strLine.size()));
         const auto entry = ParsePackLine(strLine);
         if (entry && entry->id != 0)
-            entries[entry->id] = UnescapePackText(entry->text);
+            entries[entry->id] = UnescapePackText(std::wstring(entry->text));
     }
     return entries;
 }

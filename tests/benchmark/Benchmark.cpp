@@ -49,16 +49,18 @@ void CBenchmark::Compare(const std::string& strName, const CGoal& goal, const Sa
 {
     std::vector<double> ourSamples;
     std::vector<double> baselineSamples;
+    std::vector<double> ratios;
     baseline();
     ours();
     for (int n = 0; n < nRounds; ++n)
     {
         baselineSamples.push_back(baseline());
         ourSamples.push_back(ours());
+        ratios.push_back(ourSamples.back() / baselineSamples.back());
     }
     const double nOurs = MedianOf(ourSamples);
     const double nBaseline = MedianOf(baselineSamples);
-    const double nRatio = nOurs / nBaseline;
+    const double nRatio = MedianOf(ratios);
     PrintRow(strName, Format("%12.2f %12.2f %7.2f", nOurs, nBaseline, nRatio), Describe(goal),
              IsReached(goal, nOurs, nRatio));
 }

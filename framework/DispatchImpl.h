@@ -32,6 +32,8 @@ public:
 
     STDMETHODIMP GetIDsOfNames(REFIID, LPOLESTR* rgszNames, UINT cNames, LCID, DISPID* rgDispId) override
     {
+        if (rgszNames == nullptr || rgDispId == nullptr)
+            return E_POINTER;
         const HRESULT hr = LoadTypeInfo();
         return FAILED(hr) ? hr : m_spTypeInfo->GetIDsOfNames(rgszNames, cNames, rgDispId);
     }

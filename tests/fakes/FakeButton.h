@@ -16,6 +16,7 @@ class CFakeButtons
 public:
     struct CTraits
     {
+        bool bCanBeCreated = true;
         bool bHasControl = false;
         bool bFocusable = false;
         bool bTakesFocus = true;

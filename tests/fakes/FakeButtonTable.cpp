@@ -11,7 +11,7 @@ namespace
 template <int Index>
 std::unique_ptr<CObject> CreateFakeButton()
 {
-    return std::make_unique<CFakeButton>(Index);
+    return CFakeButtons::Get()[Index].bCanBeCreated ? std::make_unique<CFakeButton>(Index) : nullptr;
 }
 
 template <int Index>

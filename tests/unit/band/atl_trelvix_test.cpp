@@ -226,6 +226,16 @@ TEST_F(Band, KnowsNoNames)
     EXPECT_EQ(DISPID_UNKNOWN, dispid);
 }
 
+TEST_F(Band, RefusesToLookForNamesNowhere)
+{
+    wchar_t szName[] = L"Anything";
+    LPOLESTR pszName = szName;
+    DISPID dispid = 0;
+    const auto spDispatch = AskBandFor<IDispatch>();
+    EXPECT_EQ(E_POINTER, spDispatch->GetIDsOfNames(IID_NULL, nullptr, 1, LOCALE_NEUTRAL, &dispid));
+    EXPECT_EQ(E_POINTER, spDispatch->GetIDsOfNames(IID_NULL, &pszName, 1, LOCALE_NEUTRAL, nullptr));
+}
+
 TEST_F(Band, RefusesAnEventWithoutArguments)
 {
     Connect();

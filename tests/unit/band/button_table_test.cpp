@@ -5,6 +5,9 @@
 #include "band/TrelvixWindow.h"
 #include "settings/LanguagePack.h"
 #include "tests/unit/band/band_fixture.h"
+#include "tools/ButtonSearchInPage.h"
+#include "tools/ButtonSeparator.h"
+#include "tools/ButtonZoom.h"
 
 #include <ostream>
 
@@ -142,4 +145,34 @@ TEST_F(ItemOfWidth, KeepsItsPlaceOpenOnTheToolbar)
     EXPECT_EQ(10, GetWidth(3)) << "each gap is as wide as the first";
     EXPECT_EQ(200, GetWidth(4));
     EXPECT_EQ(60, GetWidth(5));
+}
+
+namespace
+{
+/// A class that wants another width than its base's default.
+template <class Base>
+class CWideButton : public Base
+{
+public:
+    CWideButton() { this->m_nControlWidth = 333; }
+
+    int GetWidth() const { return this->m_nControlWidth; }
+};
+} // namespace
+
+TEST(WidthOfAnItem, IsKeptWhenAClassHasStoredOneBefore)
+{
+    CWideButton<CButtonSeparator> gap;
+    CWideButton<CButtonSearchInPage> box;
+    gap.Initialize(nullptr);
+    box.Initialize(nullptr);
+    EXPECT_EQ(333, gap.GetWidth());
+    EXPECT_EQ(333, box.GetWidth());
+}
+
+TEST(WidthOfAnItem, IsTheZoomBoxesOwnWhateverWasStored)
+{
+    CWideButton<CButtonZoom> box;
+    box.Initialize(nullptr);
+    EXPECT_EQ(60, box.GetWidth());
 }

@@ -9,36 +9,43 @@
 
 #include <gmock/gmock.h>
 
+#include <functional>
+
 using Microsoft::WRL::ComPtr;
 using testing::ElementsAre;
 
 namespace
 {
-/// Sees whether a toolbar control of this thread is created while a manifest redirects the common controls.
-class CManifestWatch
+/// Is asked before each window of this thread is created.
+class CCreationHook
 {
 public:
-    CManifestWatch() : m_hHook(SetWindowsHookExW(WH_CBT, &OnEvent, nullptr, GetCurrentThreadId()))
-    {
-        s_bRedirected = false;
-    }
-    CManifestWatch(const CManifestWatch&) = delete;
-    CManifestWatch& operator=(const CManifestWatch&) = delete;
-    ~CManifestWatch() { UnhookWindowsHookEx(m_hHook); }
+    /// The answer tells whether a window of the class may be created.
+    using Ask = std::function<bool(const std::wstring& strClass)>;
 
-    bool IsRedirected() const { return s_bRedirected; }
+    explicit CCreationHook(Ask ask) : m_hHook(SetWindowsHookExW(WH_CBT, &OnEvent, nullptr, GetCurrentThreadId()))
+    {
+        s_ask = std::move(ask);
+    }
+    CCreationHook(const CCreationHook&) = delete;
+    CCreationHook& operator=(const CCreationHook&) = delete;
+    ~CCreationHook()
+    {
+        UnhookWindowsHookEx(m_hHook);
+        s_ask = nullptr;
+    }
 
 private:
     static LRESULT CALLBACK OnEvent(int nCode, WPARAM wParam, LPARAM lParam)
     {
         wchar_t szClass[32] = {};
         GetClassNameW(reinterpret_cast<HWND>(wParam), szClass, ARRAYSIZE(szClass));
-        if (nCode == HCBT_CREATEWND && std::wstring(szClass) == TOOLBARCLASSNAMEW)
-            s_bRedirected = AreCommonControlsRedirected();
+        if (nCode == HCBT_CREATEWND && !s_ask(szClass))
+            return TRUE;
         return CallNextHookEx(nullptr, nCode, wParam, lParam);
     }
 
-    static inline bool s_bRedirected = false;
+    static inline Ask s_ask;
     HHOOK m_hHook;
 };
 
@@ -87,9 +94,13 @@ TEST_F(SetSite, GivesTheToolbarItsStyle)
 
 TEST_F(SetSite, CreatesTheToolbarUnderTheLibrarysManifest)
 {
-    const CManifestWatch watch;
+    bool bRedirected = false;
+    const CCreationHook hook([&](const std::wstring& strClass) {
+        bRedirected |= strClass == TOOLBARCLASSNAMEW && AreCommonControlsRedirected();
+        return true;
+    });
     Connect();
-    EXPECT_TRUE(watch.IsRedirected());
+    EXPECT_TRUE(bRedirected);
     EXPECT_FALSE(AreCommonControlsRedirected()) << "it is out of force again";
 }
 
@@ -223,6 +234,24 @@ TEST_F(SetSite, OfAHalfConnectedBandIsReleasedOnceByItsEnd)
     EXPECT_EQ(nBefore + 1, m_spSite->GetReferences());
     m_spBand = CreateBand();
     EXPECT_EQ(nBefore, m_spSite->GetReferences());
+}
+
+TEST_F(SetSite, IsHalfConnectedWhenTheToolbarCannotBeCreated)
+{
+    for (const wchar_t* pszRefused : {TOOLBARCLASSNAMEW, L"TrelvixWnd"})
+    {
+        const CCreationHook hook([&](const std::wstring& strClass) { return strClass != pszRefused; });
+        CFakeCalls::Get().ClearLog();
+        EXPECT_EQ(E_FAIL, GiveSite(GetSiteObject()));
+        EXPECT_TRUE(HasSite());
+        EXPECT_FALSE(IsWindow(GetBandWindow()));
+        EXPECT_EQ(0u, CWnd::GetAttachedCount());
+        EXPECT_EQ(nullptr, GetWindow(m_frame, GW_CHILD));
+        EXPECT_THAT(GetBrowserCalls(), ElementsAre("BandSite.GetWindow", "BandSite.QueryService"));
+        EXPECT_EQ(S_FALSE, AskBandFor<IInputObject>()->HasFocusIO()) << "there is no window object";
+        EXPECT_EQ(S_OK, GiveSite(nullptr));
+        EXPECT_FALSE(HasSite());
+    }
 }
 
 TEST_F(SetSite, StandsWithoutABrowser)

@@ -321,3 +321,20 @@ TEST_F(ToolbarWindow, OutlivesMessagesFromAnyoneWithAnyArguments)
             }
     EXPECT_TRUE(IsWindow(GetBandWindow()));
 }
+
+TEST_F(ToolbarWindow, PassesOverAnItemThatCouldNotBeMade)
+{
+    GetItems()[6].bCanBeCreated = false;
+    GetItems()[6].bHasControl = true;
+    ConnectWith({6, 2});
+    EXPECT_THAT(GetItemsOnToolbar(), ElementsAre(0, 2));
+    EXPECT_EQ(nullptr, GetToolbar().GetButton(6));
+    Send(WM_SIZE);
+    Send(WM_PAINT);
+    Send(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(GetItemRect(1).left + 1, 3));
+    ReleaseCapture();
+    SendMessageW(GetReflexionWindow(), WM_COMMAND, 1030, 0);
+    GetToolbar().OnPageRefreshComplete();
+    EXPECT_EQ(S_OK, AskBandFor<IInputObject>()->UIActivateIO(TRUE, nullptr));
+    EXPECT_THAT(GetItems().TakeCalls(), ElementsAre("0 OnPageRefreshComplete", "2 OnPageRefreshComplete"));
+}

@@ -4,6 +4,7 @@
 #include "tests/system/BuiltFile.h"
 #include "tests/system/ChildProcess.h"
 #include "tests/system/RegistryDump.h"
+#include "tests/system/ServerModule.h"
 
 #include <windows.h>
 #include <gmock/gmock.h>
@@ -13,6 +14,8 @@
 
 using testing::Contains;
 using testing::IsEmpty;
+using testing::Key;
+using testing::Not;
 using testing::Pair;
 
 namespace
@@ -203,6 +206,27 @@ CRegistryDump FindUnexpected(const CRegistryDump& before, const CRegistryDump& r
     return unexpected;
 }
 
+/// Shows this process a machine's part of the registry in which no key can be made, as if it lacked the rights. The
+/// classes are not concerned, since they have a root of their own.
+class CReadOnlyMachine
+{
+public:
+    CReadOnlyMachine()
+    {
+        // Below a key that is gone at the next start no lasting one can stand.
+        HKEY hKey = nullptr;
+        RegCreateKeyExW(HKEY_CURRENT_USER, L"Software\\TrelvixReadOnly", 0, nullptr, REG_OPTION_VOLATILE,
+                        KEY_ALL_ACCESS, nullptr, &hKey, nullptr);
+        RegOverridePredefKey(HKEY_LOCAL_MACHINE, hKey);
+        RegCloseKey(hKey);
+    }
+    ~CReadOnlyMachine()
+    {
+        RegOverridePredefKey(HKEY_LOCAL_MACHINE, nullptr);
+        RegDeleteTreeW(HKEY_CURRENT_USER, L"Software\\TrelvixReadOnly");
+    }
+};
+
 /// Starts and ends with nothing registered. The browser's key is there from the beginning, as on a machine with a
 /// browser.
 class Registration : public testing::Test
@@ -299,4 +323,18 @@ TEST_F(Registration, MakesTheBrowsersKeyWhereItIsMissing)
     Register();
     const CRegistryDump toolbars = DumpRegistry(HKEY_LOCAL_MACHINE, ToolbarKey);
     EXPECT_THAT(toolbars, Contains(Pair(ToLower(std::wstring(ToolbarKey) + L"\\" + BandClass), EmptyBinary)));
+}
+
+TEST_F(Registration, TellsOfTheClassesAloneWhereTheBrowsersKeyCantBeWritten)
+{
+    OleInitialize(nullptr);
+    {
+        const CServerModule module;
+        const CReadOnlyMachine machine;
+        EXPECT_EQ(S_OK, module.RegisterServer());
+    }
+    OleUninitialize();
+    const CRegistryDump own = DumpOwnKeys();
+    EXPECT_THAT(own, Contains(Pair(ToLower(ClassKey(BandClass)) + L"\\@", L"Trelvix (Toolbar)")));
+    EXPECT_THAT(own, Not(Contains(Key(ToLower(std::wstring(ToolbarKey) + L"\\" + BandClass)))));
 }

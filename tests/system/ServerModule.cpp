@@ -11,6 +11,11 @@ HRESULT CServerModule::CanUnloadNow() const
     return GetExport<HRESULT STDAPICALLTYPE()>("DllCanUnloadNow")();
 }
 
+HRESULT CServerModule::RegisterServer() const
+{
+    return GetExport<HRESULT STDAPICALLTYPE()>("DllRegisterServer")();
+}
+
 HRESULT CServerModule::GetClassObject(REFCLSID clsid, REFIID iid, void** ppv) const
 {
     return GetExport<HRESULT STDAPICALLTYPE(REFCLSID, REFIID, void**)>("DllGetClassObject")(clsid, iid, ppv);

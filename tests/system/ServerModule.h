@@ -14,6 +14,7 @@ public:
     HMODULE GetHandle() const { return m_module.get(); }
 
     HRESULT CanUnloadNow() const;
+    HRESULT RegisterServer() const;
     HRESULT GetClassObject(REFCLSID clsid, REFIID iid, void** ppv) const;
     /// Through the class's factory.
     HRESULT CreateInstance(REFCLSID clsid, IUnknown* pOuter, REFIID iid, void** ppv) const;

@@ -8,9 +8,12 @@
 
 namespace
 {
+/// Whole characters, none of them null, and not too many.
 bool IsSoundText(BSTR text)
 {
-    return text != nullptr && SysStringByteLen(text) <= MaxSettingBytes && wcslen(text) == SysStringLen(text);
+    const UINT size = SysStringByteLen(text);
+    return text != nullptr && size <= MaxSettingBytes && size % sizeof(wchar_t) == 0 &&
+           wcsnlen(text, size / sizeof(wchar_t)) == size / sizeof(wchar_t);
 }
 
 std::wstring_view ViewOf(BSTR text)

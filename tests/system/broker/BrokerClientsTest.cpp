@@ -13,6 +13,14 @@
 
 namespace
 {
+/// The broker serves all tests of the program and would stay for minutes behind the last.
+class CEndOfBroker : public testing::Environment
+{
+    void TearDown() override { KillBroker(); }
+};
+
+testing::Environment* const pEndOfBroker = testing::AddGlobalTestEnvironment(new CEndOfBroker);
+
 class BrokerClients : public CBrokerTest
 {
 protected:

@@ -93,19 +93,19 @@ std::wstring CBrokerTest::ReadValue(ISettingsBroker& broker, const std::wstring&
     return strValue;
 }
 
-CUniqueKernelHandle CBrokerTest::OpenBrokerProcess()
+CUniqueKernelHandle OpenBrokerProcess()
 {
     const DWORD dwProcess = FindBrokerProcess();
     return CUniqueKernelHandle(dwProcess != 0 ? OpenProcess(SYNCHRONIZE | PROCESS_TERMINATE, FALSE, dwProcess)
                                               : nullptr);
 }
 
-bool CBrokerTest::IsEnded(const CUniqueKernelHandle& process, DWORD dwMilliseconds)
+bool IsEnded(const CUniqueKernelHandle& process, DWORD dwMilliseconds)
 {
     return WaitForSingleObject(process.get(), dwMilliseconds) == WAIT_OBJECT_0;
 }
 
-void CBrokerTest::KillBroker()
+void KillBroker()
 {
     while (const CUniqueKernelHandle process = OpenBrokerProcess())
     {

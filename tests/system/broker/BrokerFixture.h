@@ -9,8 +9,8 @@
 
 #include <string>
 
-/// The real broker, registered for the machine while a test runs and with a time of the test's own to stay. The
-/// person's settings are gone before and afterwards. These tests run in a Wine prefix of their own.
+/// The real broker, registered for the machine while a test runs. The person's settings are gone before and afterwards.
+/// These tests run in a Wine prefix of their own.
 class CBrokerTest : public testing::Test
 {
 protected:
@@ -27,13 +27,15 @@ protected:
     static HRESULT Execute(ISettingsBroker& broker, const wchar_t* pszVerb, const wchar_t* pszKey,
                            std::wstring& strValue);
     static std::wstring ReadValue(ISettingsBroker& broker, const std::wstring& strKey);
-
-    /// The one broker process, or null when none runs.
-    static CUniqueKernelHandle OpenBrokerProcess();
-    static bool IsEnded(const CUniqueKernelHandle& process, DWORD dwMilliseconds);
-    /// Ends all broker processes and waits until they are gone.
-    static void KillBroker();
 };
+
+/// The one broker process, or null when none runs.
+CUniqueKernelHandle OpenBrokerProcess();
+/// Waits so long for the end of a process.
+bool IsEnded(const CUniqueKernelHandle& process, DWORD dwMilliseconds);
+
+/// Ends all broker processes and waits until they are gone.
+void KillBroker();
 
 /// The full key of a setting of the product.
 std::wstring GetKey(const std::wstring& strSection, const std::wstring& strName);

@@ -185,6 +185,15 @@ TEST_F(BrokerObject, RefusesTextsWithNullsInside)
     EXPECT_TRUE(IsRegistryEmpty());
 }
 
+TEST_F(BrokerObject, RefusesHalfCharacters)
+{
+    _bstr_t value(L"text");
+    EXPECT_EQ(E_INVALIDARG, Write(m_strKey, TextOfBytes(3)));
+    EXPECT_EQ(E_INVALIDARG, Execute(TextOfBytes(3), m_strKey.c_str(), value));
+    EXPECT_EQ(E_INVALIDARG, Execute(ReadVerb, TextOfBytes(1), value));
+    EXPECT_TRUE(IsRegistryEmpty());
+}
+
 TEST_F(BrokerObject, RefusesOversizedVerbsAndKeys)
 {
     _bstr_t value(L"text");

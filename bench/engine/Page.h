@@ -139,6 +139,7 @@ private:
     void OnNavigateReply(const CNavigation& navigation, const std::optional<Json>& result);
     CNavigation MakeNavigation(const Json& pausedRequest);
     void LetRequestGo(const Json& pausedRequest, const CNavigation& navigation);
+    void LetScriptsRun();
     void RunScript(const std::string& frameId, const std::string& script);
     void GoInHistory(int nSteps);
     void OnTopShown(const std::wstring& url);

@@ -79,6 +79,8 @@ void CPage::OnFrameNavigated(const Json& params)
 void CPage::OnFrameStartedNavigating(const Json& params)
 {
     const std::string frameId = GetNarrowText(params, "frameId");
+    if (m_frames.IsTop(frameId))
+        LetScriptsRun();
     if (!m_tracker.OnStartedNavigating(frameId, GetText(params, "url"), GetNarrowText(params, "navigationType")))
         RunScript(frameId, "stop()");
 }

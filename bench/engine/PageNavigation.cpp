@@ -118,8 +118,6 @@ void CPage::GoInHistory(int nSteps)
 
 void CPage::OnTopShown(const std::wstring& url)
 {
-    if (std::exchange(m_bScriptsStopped, false))
-        Post("Emulation.setScriptExecutionDisabled", {{"value", false}});
     // The empty page that every window begins with is no place to go back to.
     if (std::exchange(m_bFirstAddress, false))
         Post("Page.resetNavigationHistory");

@@ -2,6 +2,7 @@
 #include "bench/engine/Url.h"
 
 #include <algorithm>
+#include <utility>
 
 Json CPage::Evaluate(const std::string& frameId, const std::wstring& expression)
 {
@@ -100,4 +101,10 @@ void CPage::StopScripts()
 {
     m_bScriptsStopped = true;
     Post("Emulation.setScriptExecutionDisabled", {{"value", true}});
+}
+
+void CPage::LetScriptsRun()
+{
+    if (std::exchange(m_bScriptsStopped, false))
+        Post("Emulation.setScriptExecutionDisabled", {{"value", false}});
 }

@@ -13,20 +13,11 @@ exec 3<>"/dev/tcp/127.0.0.1/$port" || exit 1
 profile=$(mktemp -d "${TMPDIR:-/tmp}/bench-engine.XXXXXX")
 engine_pid=
 
-end_engine() {
-    [ -n "$engine_pid" ] || return
-    kill -TERM -- "-$engine_pid"
-    for _ in {1..30}; do
-        kill -0 -- "-$engine_pid" || return
-        sleep 0.1
-    done
-    kill -KILL -- "-$engine_pid"
-}
-
 leave() {
-    end_engine 2>/dev/null
+    # Nothing of the profile is wanted afterwards, so there is nothing to say good-bye for.
+    [ -n "$engine_pid" ] && kill -KILL -- "-$engine_pid" && wait "$engine_pid"
     rm -rf "$profile"
-}
+} 2>/dev/null
 trap leave EXIT
 trap 'exit 1' TERM INT HUP
 

@@ -1,7 +1,6 @@
 #include "tests/unit/bench/browser_fixture.h"
 
 #include "framework/ComQuery.h"
-#include "tests/unit/bench/event_recorder.h"
 #include "tests/unit/bench/test_pages.h"
 
 #include <comutil.h>
@@ -48,6 +47,11 @@ void BrowserTest::SetUpTestSuite()
 {
     CoInitialize(nullptr);
     s_pages = std::make_unique<CTestPages>();
+    RestartEngine();
+}
+
+void BrowserTest::RestartEngine()
+{
     s_engine = std::make_unique<CEngine>();
     std::wstring error;
     ASSERT_TRUE(s_engine->Start(EngineProgram, error)) << ToUtf8(error);
@@ -100,6 +104,11 @@ std::string BrowserTest::NameFrame(IDispatch* pFrame)
 void BrowserTest::Serve(const std::string& path, const std::string& html, const std::string& headers)
 {
     s_pages->Serve(path, html, headers);
+}
+
+void BrowserTest::Redirect(const std::string& from, const std::string& to)
+{
+    s_pages->Redirect(from, to);
 }
 
 std::vector<std::string> BrowserTest::TakeRequests()

@@ -4,6 +4,7 @@
 #include "bench/com/WebBrowser.h"
 #include "bench/engine/Engine.h"
 #include "bench/engine/PageView.h"
+#include "tests/unit/bench/event_recorder.h"
 
 #include <windows.h>
 #include <exdisp.h>
@@ -15,7 +16,6 @@
 #include <string>
 #include <vector>
 
-class CEventRecorder;
 class CTestPages;
 
 /// A window around a browser as the tests see it: what it was told and asked for.
@@ -71,9 +71,13 @@ protected:
     void TearDown() override;
 
     static CEngine& GetEngine() { return *s_engine; }
+    /// For a test that has ended it.
+    static void RestartEngine();
 
     /// Serves the text at the path, which begins with a slash, as HTML.
     static void Serve(const std::string& path, const std::string& html, const std::string& headers = {});
+    /// Sends whoever asks for the one path on to the other.
+    static void Redirect(const std::string& from, const std::string& to);
     static std::vector<std::string> TakeRequests();
     static std::wstring UrlOf(const std::wstring& path);
     /// The same page as one of another origin.

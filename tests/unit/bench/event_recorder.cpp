@@ -32,8 +32,9 @@ STDMETHODIMP CEventRecorder::Invoke(DISPID dispid, REFIID, LCID, WORD, DISPPARAM
 {
     if (FindName(dispid) != nullptr)
         m_lines.push_back(Describe(dispid, *pParams));
-    if (m_action)
-        m_action(dispid, *pParams);
+    // The action may set another one.
+    if (const Action action = m_action)
+        action(dispid, *pParams);
     return S_OK;
 }
 

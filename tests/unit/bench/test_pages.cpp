@@ -31,6 +31,12 @@ void CTestPages::Serve(const std::string& path, const std::string& html, const s
         MakeAnswer("200 OK", html, headers.empty() ? "Content-Type: text/html; charset=utf-8\r\n" : headers);
 }
 
+void CTestPages::Redirect(const std::string& from, const std::string& to)
+{
+    const std::lock_guard lock(m_lock);
+    m_answers[from] = MakeAnswer("302 Found", "", "Location: " + to + "\r\n");
+}
+
 std::vector<std::string> CTestPages::TakeRequests()
 {
     const std::lock_guard lock(m_lock);

@@ -20,6 +20,8 @@ public:
 
     /// Answers requests for the path with the page from now on. Further headers end with line ends.
     void Serve(const std::string& path, const std::string& html, const std::string& headers = {});
+    /// Sends on to another path from now on.
+    void Redirect(const std::string& from, const std::string& to);
     /// The requests since the last call, head and body as they came.
     std::vector<std::string> TakeRequests();
 

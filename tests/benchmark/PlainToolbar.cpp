@@ -172,11 +172,17 @@ void CPlainToolbar::PlaceItem(int nIndex)
         PlaceBox(nIndex);
 }
 
-void CPlainToolbar::PlaceBox(int nIndex)
+RECT CPlainToolbar::GetLastRect() const
 {
     RECT rect = {};
     const WPARAM nLast = SendMessageW(m_hWnd, TB_BUTTONCOUNT, 0, 0) - 1;
     SendMessageW(m_hWnd, TB_GETITEMRECT, nLast, reinterpret_cast<LPARAM>(&rect));
+    return rect;
+}
+
+void CPlainToolbar::PlaceBox(int nIndex)
+{
+    const RECT rect = GetLastRect();
     const HWND hWnd =
         CreateWindowExW(0, WC_COMBOBOXW, nullptr, BoxStyle, rect.left, rect.top, rect.right - rect.left,
                         rect.bottom - rect.top + DropDownHeight, m_hWnd,
@@ -186,7 +192,9 @@ void CPlainToolbar::PlaceBox(int nIndex)
     SetWindowTextW(hWnd, LoadLabel(nIndex).c_str());
     if (nIndex != ZoomIndex)
         return;
+    SendMessageW(hWnd, CB_RESETCONTENT, 0, 0);
     for (const wchar_t* pszZoom : Zooms)
-        SendMessageW(hWnd, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(pszZoom));
+        SendMessageW(hWnd, CB_INSERTSTRING, SendMessageW(hWnd, CB_GETCOUNT, 0, 0), reinterpret_cast<LPARAM>(pszZoom));
+    SetWindowTextW(hWnd, L"");
     SendMessageW(hWnd, CB_SETCURSEL, SelectedZoom, 0);
 }

@@ -10,8 +10,8 @@
 #include <vector>
 
 /// The toolbar with its default layout as a program would make it that calls the platform and nothing else: the same
-/// windows, image lists, texts, buttons and boxes, without classes, items, settings and translation. What Trelvix takes
-/// is compared with it.
+/// windows, image lists, texts, buttons and boxes by the same messages, without classes, items, settings and
+/// translation. What Trelvix takes is compared with it.
 class CPlainToolbar
 {
 public:
@@ -32,6 +32,7 @@ private:
     void AddLabels();
     void PlaceItem(int nIndex);
     void PlaceBox(int nIndex);
+    RECT GetLastRect() const;
 
     using CUniqueImageList = CUniqueHandle<HIMAGELIST, ImageList_Destroy>;
 

@@ -11,8 +11,8 @@
 
 /// Keeps the events of all browsers of the process, in the order in which they were told: a line for each, with the
 /// tab's number, the event's name, "page" or "frame", the address and what else matters. Addresses of the bench's own
-/// pages stand without their server, so that the lines of two runs can be compared. Scripts and the file of
-/// --log-events read them.
+/// pages stand without their server, so that the lines of two runs can be compared. Scripts read them. Those in the
+/// file of --log-events end with a bar and the frames of the page, by path and ready state.
 class CEventJournal : public IEventTap
 {
 public:
@@ -24,6 +24,8 @@ public:
 
     /// For the listeners.
     void Add(const std::wstring& line);
+    /// Whether a file is kept, whose lines tell the frames of the page as well.
+    bool IsWritten() const { return m_file.is_open(); }
     std::wstring ShortenAddress(const std::wstring& address) const;
 
     size_t GetCount() const;

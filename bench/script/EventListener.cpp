@@ -1,6 +1,7 @@
 #include "bench/script/EventListener.h"
 
 #include "bench/script/EventJournal.h"
+#include "bench/script/FrameStates.h"
 #include "framework/ComQuery.h"
 
 #include <comutil.h>
@@ -46,6 +47,13 @@ const VARIANT& Follow(const VARIANT& argument)
 {
     return V_VT(&argument) == (VT_BYREF | VT_VARIANT) ? *V_VARIANTREF(&argument) : argument;
 }
+
+/// The page or frame that an event is about, which stands first and so comes last; null when it is about none.
+IUnknown* GetFrame(const DISPPARAMS& params)
+{
+    const VARIANT* pLast = params.cArgs != 0 ? &params.rgvarg[params.cArgs - 1] : nullptr;
+    return pLast != nullptr && V_VT(pLast) == VT_DISPATCH ? V_DISPATCH(pLast) : nullptr;
+}
 } // namespace
 
 CEventListener::CEventListener(CEventJournal& journal, int nTab, IUnknown* pBrowser)
@@ -84,6 +92,8 @@ STDMETHODIMP CEventListener::Invoke(DISPID dispid, REFIID, LCID, WORD, DISPPARAM
     for (UINT i = pParams->cArgs; i-- > 0;)
         if (const std::wstring text = Describe(Follow(pParams->rgvarg[i])); !text.empty())
             line.append(1, L' ').append(text);
+    if (m_journal.IsWritten())
+        line += L" | " + DescribeFrames(m_pBrowser, GetFrame(*pParams));
     m_journal.Add(line);
     return S_OK;
 }

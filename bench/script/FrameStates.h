@@ -1,0 +1,9 @@
+#pragma once
+
+#include <windows.h>
+
+#include <string>
+
+/// The page and the frames below it, depth first, each with its path and ready state as a listener finds them:
+/// "1.=1 1.1.=4 1.2.=1". A star follows the one that is `pFrame`, the frame that an event is about; it may be null.
+std::wstring DescribeFrames(IUnknown* pBrowser, IUnknown* pFrame);

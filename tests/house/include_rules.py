@@ -11,7 +11,8 @@ COMPANIONS = ["bench", "broker", "infobar", "textcontrol"]
 FOLDERS = ["framework", *TOOLBAR, *COMPANIONS, "tests"]
 ITEMS = ("capture/", "dialogs/", "spy/", "tools/")
 
-# Headers that the build makes, and of which each stands for a contract that all may know.
+# Headers that the build makes, and of which each stands for a contract that all may know. A header that it makes from
+# a ".h.in" is its folder's own like any other.
 GENERATED = ("resources/Trelvix.h", "broker/SettingsBroker.h", "version.h", "notimpl/")
 CONTRACTS = ("resources/resource.h", *GENERATED)
 
@@ -45,7 +46,8 @@ def includes_of(source):
 def broken_rule(source, included):
     """The rule that an #include breaks, or None."""
     folder = source.split("/")[0]
-    if not (ROOT / included).is_file() and not included.startswith(GENERATED):
+    is_file = (ROOT / included).is_file() or (ROOT / f"{included}.in").is_file()
+    if not is_file and not included.startswith(GENERATED):
         return "is no file of the repository, seen from its root"
     if folder in KNOWN_TO and not included.startswith((folder + "/", *KNOWN_TO[folder], *CONTRACTS)):
         return f"is none of {folder}/'s concern"

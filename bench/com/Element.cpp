@@ -95,12 +95,12 @@ STDMETHODIMP CElement::get_document(IDispatch** ppDocument)
     return ppDocument ? GetDocumentObject().QueryInterface(IID_PPV_ARGS(ppDocument)) : E_POINTER;
 }
 
-STDMETHODIMP CElement::get_style(IHTMLStyle** ppStyle)
+HRESULT CElement::GetStyle(bool bRuntime, IHTMLStyle** ppStyle)
 {
     if (ppStyle == nullptr)
         return E_POINTER;
     *ppStyle = nullptr;
-    return ComBoundary([&] { return MakeObject<CStyle>(*this).CopyTo(ppStyle); });
+    return ComBoundary([&] { return MakeObject<CStyle>(*this, bRuntime).CopyTo(ppStyle); });
 }
 
 HRESULT CElement::GetCollection(std::string kind, IDispatch** ppElements)

@@ -60,14 +60,13 @@ public:
     STDMETHODIMP get_offsetHeight(long* pn) override { return GetNumberOf("offsetHeight", pn); }
     STDMETHODIMP get_parentElement(IHTMLElement** ppParent) override;
     STDMETHODIMP get_document(IDispatch** ppDocument) override;
-    STDMETHODIMP get_style(IHTMLStyle** ppStyle) override;
+    STDMETHODIMP get_style(IHTMLStyle** ppStyle) override { return GetStyle(false, ppStyle); }
     STDMETHODIMP get_all(IDispatch** ppAll) override;
     STDMETHODIMP get_children(IDispatch** ppChildren) override;
     STDMETHODIMP contains(IHTMLElement* pElement, VARIANT_BOOL* pbContains) override;
     STDMETHODIMP click() override;
 
-    /// The engine has one style of an element's own only, so this is the same as get_style.
-    STDMETHODIMP get_runtimeStyle(IHTMLStyle** ppStyle) override { return get_style(ppStyle); }
+    STDMETHODIMP get_runtimeStyle(IHTMLStyle** ppStyle) override { return GetStyle(true, ppStyle); }
     STDMETHODIMP get_clientWidth(long* pn) override { return GetNumberOf("clientWidth", pn); }
     STDMETHODIMP get_clientHeight(long* pn) override { return GetNumberOf("clientHeight", pn); }
     STDMETHODIMP get_scrollWidth(long* pn) override { return GetNumberOf("scrollWidth", pn); }
@@ -88,6 +87,7 @@ private:
     HRESULT GetNumberOf(const char* pszName, long* pn) const { return AskNumber("getOf", {m_nElement, pszName}, pn); }
     HRESULT PutText(const char* pszName, BSTR bstr) const;
     HRESULT PutNumber(const char* pszName, long n) const { return Tell("putOf", {m_nElement, pszName, n}); }
+    HRESULT GetStyle(bool bRuntime, IHTMLStyle** ppStyle);
     HRESULT GetCollection(std::string kind, IDispatch** ppElements);
 
     int m_nElement;

@@ -2,26 +2,29 @@
 
 #include "bench/com/Element.h"
 
-CStyle::CStyle(CElement& element) : CDocumentPart(element.GetOwner()), m_spElement(&element) {}
+CStyle::CStyle(CElement& element, bool bRuntime)
+    : CDocumentPart(element.GetOwner()), m_spElement(&element), m_bRuntime(bRuntime)
+{
+}
 
 CStyle::~CStyle() = default;
 
 STDMETHODIMP CStyle::put_cssText(BSTR bstrText)
 {
     return ComBoundary([&] {
-        return Tell("putStyle", {m_spElement->GetNumber(), "cssText", ToUtf8(GetString(bstrText))});
+        return Tell("putStyle", {m_spElement->GetNumber(), "cssText", ToUtf8(GetString(bstrText)), m_bRuntime});
     });
 }
 
 STDMETHODIMP CStyle::get_cssText(BSTR* pbstrText)
 {
-    return AskText("getStyle", {m_spElement->GetNumber(), "cssText"}, pbstrText);
+    return AskText("getStyle", {m_spElement->GetNumber(), "cssText", m_bRuntime}, pbstrText);
 }
 
 STDMETHODIMP CStyle::put_zoom(VARIANT vZoom)
 {
     return ComBoundary([&] {
-        return Tell("putStyle", {m_spElement->GetNumber(), "zoom", ToUtf8(GetOptionalText(&vZoom))});
+        return Tell("putStyle", {m_spElement->GetNumber(), "zoom", ToUtf8(GetOptionalText(&vZoom)), m_bRuntime});
     });
 }
 
@@ -31,7 +34,7 @@ STDMETHODIMP CStyle::get_zoom(VARIANT* pvZoom)
         return E_POINTER;
     VariantInit(pvZoom);
     BSTR bstrZoom = nullptr;
-    const HRESULT hr = AskText("getStyle", {m_spElement->GetNumber(), "zoom"}, &bstrZoom);
+    const HRESULT hr = AskText("getStyle", {m_spElement->GetNumber(), "zoom", m_bRuntime}, &bstrZoom);
     if (FAILED(hr))
         return hr;
     V_VT(pvZoom) = VT_BSTR;

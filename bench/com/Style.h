@@ -9,7 +9,7 @@
 
 class CElement;
 
-/// The style that an element has of its own.
+/// The style that an element has of its own, or the runtime style that is laid over it and leaves its own as it is.
 class CStyle : public CDocumentPart<CStyle, CHTMLStyleNotImpl, CHTMLStyle3NotImpl>
 {
     BEGIN_COM_MAP(CStyle)
@@ -19,7 +19,7 @@ class CStyle : public CDocumentPart<CStyle, CHTMLStyleNotImpl, CHTMLStyle3NotImp
     END_COM_MAP()
 
 public:
-    explicit CStyle(CElement& element);
+    CStyle(CElement& element, bool bRuntime);
     ~CStyle() override;
 
     STDMETHODIMP put_cssText(BSTR bstrText) override;
@@ -30,4 +30,5 @@ public:
 
 private:
     Microsoft::WRL::ComPtr<CElement> m_spElement;
+    bool m_bRuntime;
 };

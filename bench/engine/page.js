@@ -62,8 +62,6 @@ globalThis.bench = (() => {
 
         getAttribute: (number, name) => elements.get(number).getAttribute(name),
         setAttribute: (number, name, value) => elements.get(number).setAttribute(name, value),
-        getStyle: (number, name) => elements.get(number).style[name],
-        putStyle: (number, name, value) => void (elements.get(number).style[name] = value),
         contains: (number, other) => elements.get(number).contains(elements.get(other)),
         click: (number) => elements.get(number).click(),
 

@@ -5,7 +5,7 @@ bench.markup = (() => {
 
     const { places, ReaderText } = bench;
 
-    /** How long the text is kept: what the page's styles hide may change without a trace. */
+    /** How long a text may be used: what the page's styles hide may change without a trace. */
     const KeepMs = 1000;
 
     /** In these only certain elements may stand. */
@@ -47,7 +47,13 @@ bench.markup = (() => {
         observer.disconnect();
     };
 
-    const getText = () => (text ??= new ReaderText(document.documentElement));
+    const getText = () => {
+        if (!text) {
+            text = new ReaderText(document.documentElement);
+            keepUntil = performance.now() + KeepMs;
+        }
+        return text;
+    };
 
     const pointersAt = (place) => [...pointers.values()].filter((each) => each.place && places.isSame(each.place, place));
 
@@ -125,7 +131,7 @@ bench.markup = (() => {
 
     /** The number of further hits behind the one found, -1 when none is found. */
     const find = (pointer, words, end) => {
-        const hit = (text ??= new ReaderText(document.documentElement)).find(words, pointer.place);
+        const hit = getText().find(words, pointer.place);
         pointer.isLost = !hit;
         if (!hit)
             return -1;
@@ -199,10 +205,8 @@ bench.markup = (() => {
     const end = () => {
         for (const pointer of pointers.values())
             pointer.settle();
-        if (!text)
-            return;
-        keepUntil = performance.now() + KeepMs;
-        observer.observe(document, { subtree: true, childList: true, characterData: true, attributes: true });
+        if (text)
+            observer.observe(document, { subtree: true, childList: true, characterData: true, attributes: true });
     };
 
     return {

@@ -10,8 +10,8 @@ bench.ReaderText = (() => {
 
     /** What shows something of its own in the place of its content. */
     const replaced = new Set([
-        "AUDIO", "BR", "CANVAS", "EMBED", "HR", "IFRAME", "IMG", "INPUT", "MATH", "METER", "OBJECT", "PROGRESS", "SELECT",
-        "SVG", "TEXTAREA", "VIDEO",
+        "AUDIO", "BR", "CANVAS", "EMBED", "HR", "IFRAME", "IMG", "INPUT", "MATH", "METER", "NOSCRIPT", "OBJECT", "PROGRESS",
+        "SELECT", "SVG", "TEXTAREA", "VIDEO",
     ]);
 
     /** Case doesn't count, and blanks match as the reader sees them: any number of any kind is one. */

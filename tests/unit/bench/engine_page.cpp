@@ -2,21 +2,42 @@
 
 #include "framework/ComQuery.h"
 
+#include <utility>
+
 using Microsoft::WRL::ComPtr;
 
 namespace
 {
 constexpr char DocumentHead[] = "<!DOCTYPE html><meta charset=\"utf-8\"><title>Page</title>\n";
 
-class CEngineEnvironment : public testing::Environment
+std::unique_ptr<CEnginePage> s_pPage;
+} // namespace
+
+/// Opens the page before the first test and closes it after the last.
+class CEnginePage::CEnvironment : public testing::Environment
 {
 public:
-    void SetUp() override { CEnginePage::StartEngine(); }
-    void TearDown() override { CEnginePage::StopEngine(); }
+    void SetUp() override
+    {
+        SetUpTestSuite();
+        s_pPage.reset(new CEnginePage);
+    }
+    void TearDown() override
+    {
+        s_pPage.reset();
+        TearDownTestSuite();
+    }
+
+    static const testing::Environment* const s_pAdded;
 };
 
-[[maybe_unused]] const auto* const s_pEnvironment = testing::AddGlobalTestEnvironment(new CEngineEnvironment);
-} // namespace
+const testing::Environment* const CEnginePage::CEnvironment::s_pAdded =
+    testing::AddGlobalTestEnvironment(new CEnvironment);
+
+CEnginePage& CEnginePage::Get()
+{
+    return *s_pPage;
+}
 
 CEnginePage::CEnginePage()
 {
@@ -46,7 +67,7 @@ ComPtr<IHTMLDocument2> CEnginePage::GetDocument()
 Json CEnginePage::Run(const std::wstring& script)
 {
     PumpUntil([bPumped = false]() mutable { return std::exchange(bPumped, true); });
-    return BrowserTest::Run(script);
+    return RunAtOnce(script);
 }
 
 std::wstring CEnginePage::GetScriptText(const std::wstring& script)

@@ -27,7 +27,7 @@ public:
     }
 
 private:
-    CEnginePage m_page;
+    CEnginePage& m_page = CEnginePage::Get();
 };
 } // namespace
 

@@ -2,71 +2,19 @@
 
 #include "band/ATLTrelvix.h"
 #include "band/TrelvixWindow.h"
-#include "framework/Wnd.h"
-#include "tests/fakes/BrowserEvent.h"
-#include "tests/unit/band/band_fixture.h"
+#include "tests/unit/band/creation_hook.h"
+#include "tests/unit/band/set_site_fixture.h"
 #include "tests/unit/controls/activation_context.h"
 
 #include <gmock/gmock.h>
 
-#include <functional>
-
 using Microsoft::WRL::ComPtr;
 using testing::ElementsAre;
 
-namespace
-{
-/// Is asked before each window of this thread is created.
-class CCreationHook
-{
-public:
-    /// The answer tells whether a window of the class may be created.
-    using Ask = std::function<bool(const std::wstring& strClass)>;
+using SetSite = CSetSiteTest;
+using GetSite = CSetSiteTest;
 
-    explicit CCreationHook(Ask ask) : m_hHook(SetWindowsHookExW(WH_CBT, &OnEvent, nullptr, GetCurrentThreadId()))
-    {
-        s_ask = std::move(ask);
-    }
-    CCreationHook(const CCreationHook&) = delete;
-    CCreationHook& operator=(const CCreationHook&) = delete;
-    ~CCreationHook()
-    {
-        UnhookWindowsHookEx(m_hHook);
-        s_ask = nullptr;
-    }
-
-private:
-    static LRESULT CALLBACK OnEvent(int nCode, WPARAM wParam, LPARAM lParam)
-    {
-        wchar_t szClass[32] = {};
-        GetClassNameW(reinterpret_cast<HWND>(wParam), szClass, ARRAYSIZE(szClass));
-        if (nCode == HCBT_CREATEWND && !s_ask(szClass))
-            return TRUE;
-        return CallNextHookEx(nullptr, nCode, wParam, lParam);
-    }
-
-    static inline Ask s_ask;
-    HHOOK m_hHook;
-};
-
-class SetSite : public CBandTest
-{
-protected:
-    IUnknown* GetSiteObject() { return static_cast<IInputObjectSite*>(m_spSite.Get()); }
-
-    HRESULT AskForSite(IUnknown** ppSite)
-    {
-        return AskBandFor<IObjectWithSite>()->GetSite(IID_IUnknown, reinterpret_cast<void**>(ppSite));
-    }
-    bool HasSite()
-    {
-        ComPtr<IUnknown> spSite;
-        return AskForSite(&spSite) == S_OK;
-    }
-};
-} // namespace
-
-TEST_F(SetSite, ConnectsInTheToldOrder)
+TEST_F(SetSite, ConnectsStepByStep)
 {
     Connect();
     EXPECT_THAT(GetBrowserCalls(),
@@ -182,117 +130,6 @@ TEST_F(SetSite, WithASecondSiteDisconnectsTheFirstBeforeItConnects)
     EXPECT_TRUE(IsWindow(GetBandWindow()));
 }
 
-TEST_F(SetSite, FailsWithoutAWindowOfTheSite)
-{
-    m_spSite->Lack(IID_IOleWindow);
-    EXPECT_EQ(E_FAIL, GiveSite(GetSiteObject()));
-    EXPECT_FALSE(HasSite());
-    EXPECT_THAT(GetBrowserCalls(), ElementsAre());
-}
-
-TEST_F(SetSite, FailsWhenTheSitesWindowIsNone)
-{
-    m_spSite->m_hWnd = nullptr;
-    EXPECT_EQ(E_FAIL, GiveSite(GetSiteObject()));
-    m_spSite->m_hWnd = reinterpret_cast<HWND>(0x7ffe);
-    EXPECT_EQ(E_FAIL, GiveSite(GetSiteObject()));
-    EXPECT_FALSE(HasSite());
-    EXPECT_THAT(GetBrowserCalls(), ElementsAre("BandSite.GetWindow", "BandSite.GetWindow"));
-}
-
-TEST_F(SetSite, ForgetsTheWindowOfTheSiteBefore)
-{
-    Connect();
-    const auto spOther = MakeFake<CFakeBandSite>(m_frame, m_spBrowser.Get());
-    spOther->Lack(IID_IOleWindow);
-    EXPECT_EQ(E_FAIL, GiveSite(static_cast<IInputObjectSite*>(spOther.Get())));
-    EXPECT_EQ(0u, m_spBrowser->GetConnectionPoint().GetSinkCount()) << "the first connection is gone all the same";
-}
-
-TEST_F(SetSite, FailsForASiteThatIsNoInputObjectSite)
-{
-    m_spSite->Lack(IID_IInputObjectSite);
-    EXPECT_EQ(E_FAIL, GiveSite(GetSiteObject()));
-    EXPECT_FALSE(HasSite());
-}
-
-TEST_F(SetSite, IsHalfConnectedByASiteWithoutServices)
-{
-    m_spSite->Lack(IID_IServiceProvider);
-    EXPECT_EQ(E_FAIL, GiveSite(GetSiteObject()));
-    EXPECT_TRUE(HasSite());
-    EXPECT_EQ(nullptr, GetBandWindow());
-    EXPECT_EQ(S_OK, GiveSite(nullptr));
-    EXPECT_FALSE(HasSite());
-}
-
-TEST_F(SetSite, OfAHalfConnectedBandIsReleasedOnceByItsEnd)
-{
-    m_spSite->Lack(IID_IServiceProvider);
-    const ULONG nBefore = m_spSite->GetReferences();
-    EXPECT_EQ(E_FAIL, GiveSite(GetSiteObject()));
-    EXPECT_EQ(nBefore + 1, m_spSite->GetReferences());
-    m_spBand = CreateBand();
-    EXPECT_EQ(nBefore, m_spSite->GetReferences());
-}
-
-TEST_F(SetSite, IsHalfConnectedWhenTheToolbarCannotBeCreated)
-{
-    for (const wchar_t* pszRefused : {TOOLBARCLASSNAMEW, L"TrelvixWnd"})
-    {
-        const CCreationHook hook([&](const std::wstring& strClass) { return strClass != pszRefused; });
-        CFakeCalls::Get().ClearLog();
-        EXPECT_EQ(E_FAIL, GiveSite(GetSiteObject()));
-        EXPECT_TRUE(HasSite());
-        EXPECT_FALSE(IsWindow(GetBandWindow()));
-        EXPECT_EQ(0u, CWnd::GetAttachedCount());
-        EXPECT_EQ(nullptr, GetWindow(m_frame, GW_CHILD));
-        EXPECT_THAT(GetBrowserCalls(), ElementsAre("BandSite.GetWindow", "BandSite.QueryService"));
-        EXPECT_EQ(S_FALSE, AskBandFor<IInputObject>()->HasFocusIO()) << "there is no window object";
-        EXPECT_EQ(S_OK, GiveSite(nullptr));
-        EXPECT_FALSE(HasSite());
-    }
-}
-
-TEST_F(SetSite, StandsWithoutABrowser)
-{
-    CFakeCalls::Get().FailAll("BandSite.QueryService", E_NOINTERFACE);
-    EXPECT_EQ(S_OK, GiveSite(GetSiteObject())) << "the service's result is not tested";
-    EXPECT_TRUE(IsWindow(GetBandWindow()));
-    EXPECT_EQ(0u, m_spBrowser->GetConnectionPoint().GetSinkCount());
-    EXPECT_EQ(0u, m_spBrowser->m_properties.size());
-}
-
-TEST_F(SetSite, StandsWithoutEventsWhenTheBrowserCannotBeAdvised)
-{
-    CFakeCalls::Get().FailAll("ConnectionPoint.Advise", CONNECT_E_CANNOTCONNECT);
-    EXPECT_EQ(S_OK, GiveSite(GetSiteObject()));
-    EXPECT_TRUE(IsWindow(GetBandWindow()));
-    EXPECT_EQ(1u, m_spBrowser->m_properties.count(L"TRELVIX_HWND"));
-}
-
-TEST_F(SetSite, StandsWithoutEventsWhenTheBrowserHasNoConnectionPoints)
-{
-    m_spBrowser->Lack(IID_IConnectionPointContainer);
-    EXPECT_EQ(S_OK, GiveSite(GetSiteObject()));
-    EXPECT_TRUE(IsWindow(GetBandWindow()));
-}
-
-TEST_F(SetSite, LeavesNothingBehindWhateverCallFails)
-{
-    for (const HRESULT hr : {E_FAIL, E_ACCESSDENIED, E_OUTOFMEMORY, RPC_E_DISCONNECTED, S_OK})
-        ForEachFailingCall(hr, [&] {
-            const HRESULT hrSite = GiveSite(GetSiteObject());
-            EXPECT_TRUE(hrSite == S_OK || hrSite == E_FAIL);
-            CFakeCalls::Get().FailCall(0, S_OK);
-            m_spBand->CloseDW(0);
-            EXPECT_EQ(S_OK, GiveSite(nullptr));
-            EXPECT_FALSE(HasSite());
-            EXPECT_EQ(0u, CWnd::GetAttachedCount());
-            EXPECT_EQ(nullptr, GetWindow(m_frame, GW_CHILD));
-        });
-}
-
 TEST_F(SetSite, TakesABandThatWasClosed)
 {
     Connect();
@@ -316,8 +153,6 @@ TEST_F(SetSite, ConnectsAnyNumberOfBandsToTheirBrowsers)
     m_spBand = spFirst;
     EXPECT_TRUE(IsWindow(hFirst));
 }
-
-using GetSite = SetSite;
 
 TEST_F(GetSite, FailsAndClearsTheOutPointerWithoutASite)
 {

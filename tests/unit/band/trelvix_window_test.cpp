@@ -6,36 +6,12 @@
 
 #include <gmock/gmock.h>
 
-#include <algorithm>
 #include <climits>
 
 using testing::Each;
 using testing::ElementsAre;
-using testing::IsEmpty;
 
-namespace
-{
-constexpr UINT_PTR InfoBarTimer = 2017;
-
-class ToolbarWindow : public CWindowTest
-{
-protected:
-    /// Presses the mouse at an offset from the left edge of an item.
-    void Press(int nPosition, int nOffset)
-    {
-        const RECT rect = GetItemRect(nPosition);
-        Send(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(rect.left + nOffset, rect.top + 2));
-    }
-
-    /// Whether the control itself took the press; ends it.
-    bool EndPress()
-    {
-        const bool bTaken = GetCapture() == GetBandWindow();
-        ReleaseCapture();
-        return bTaken;
-    }
-};
-} // namespace
+using ToolbarWindow = CWindowTest;
 
 TEST_F(ToolbarWindow, IsEmptyBeforeItIsCreated)
 {
@@ -56,7 +32,7 @@ TEST_F(ToolbarWindow, IsNotCreatedWithoutAParent)
     EXPECT_EQ(0, GetItems().m_nCreated);
 }
 
-TEST_F(ToolbarWindow, PreparesTheControlInTheToldOrder)
+TEST_F(ToolbarWindow, PreparesTheControlStepByStep)
 {
     GetItems()[3].bHasControl = true;
     const CToolbarRecorder recorder;
@@ -168,52 +144,6 @@ TEST_F(ToolbarWindow, DeletesItsItemsWithItsWindow)
     EXPECT_EQ(0, GetItems().m_nLiving);
 }
 
-TEST_F(ToolbarWindow, GivesAPressOnTheIconToItsItem)
-{
-    ConnectWith({2, 5});
-    GetItems()[5].bTakesIconClick = true;
-    Press(2, 23);
-    EXPECT_THAT(GetItems().TakeCalls(), ElementsAre("5 OnIconClick 1"));
-    EXPECT_FALSE(EndPress());
-}
-
-TEST_F(ToolbarWindow, TakesAPressThatTheItemDeclines)
-{
-    ConnectWith({2, 5});
-    Press(2, 0);
-    EXPECT_THAT(GetItems().TakeCalls(), ElementsAre("5 OnIconClick 1"));
-    EXPECT_TRUE(EndPress());
-}
-
-TEST_F(ToolbarWindow, KeepsAPressOnTheArrowFromTheIcon)
-{
-    ConnectWith({2, 5});
-    GetItems()[5].bTakesIconClick = true;
-    const RECT rect = GetItemRect(2);
-    Send(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(rect.left + 24, rect.top + 2));
-    EXPECT_THAT(GetItems().TakeCalls(), IsEmpty());
-    ReleaseCapture();
-}
-
-TEST_F(ToolbarWindow, KeepsAPressOutsideTheItemsFromThem)
-{
-    ConnectWith({2, 5});
-    Send(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(GetItemRect(2).right + 100, 5));
-    Send(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(-5, -5));
-    Send(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(SHRT_MAX, SHRT_MAX));
-    EXPECT_THAT(GetItems().TakeCalls(), IsEmpty());
-    ReleaseCapture();
-}
-
-TEST_F(ToolbarWindow, GivesNoPressToAnItemWithAControl)
-{
-    GetItems()[3].bHasControl = true;
-    ConnectWith({3});
-    Press(1, 5);
-    EXPECT_THAT(GetItems().TakeCalls(), IsEmpty());
-    ReleaseCapture();
-}
-
 TEST_F(ToolbarWindow, RepaintsTheControlsOfTheLayoutWhenItsSizeChanges)
 {
     for (const int nIndex : {3, 7, 8})
@@ -232,59 +162,6 @@ TEST_F(ToolbarWindow, RepaintsTheControlsOfTheTableWhenItIsPainted)
     Send(WM_PAINT);
     EXPECT_THAT(GetItems().TakeCalls(), ElementsAre("3 Repaint", "7 Repaint"))
         << "in the order of the table, each once, and only what stands in the layout";
-}
-
-TEST_F(ToolbarWindow, OpensTheSideBarOnItsTimer)
-{
-    ConnectWith({});
-    StoreSetting(L"Options", L"InfoBarFirstTime", L"");
-    Send(WM_TIMER, InfoBarTimer);
-    ASSERT_EQ(1u, m_spBrowser->m_browserBars.size());
-    const auto& bar = m_spBrowser->m_browserBars.front();
-    EXPECT_EQ(_variant_t(L"{947E34E9-1D85-43CB-9CBF-5C492118FDD5}"), bar.vClsid);
-    EXPECT_EQ(_variant_t(true), bar.vShow);
-    EXPECT_FALSE(bar.bSize);
-}
-
-TEST_F(ToolbarWindow, OpensTheSideBarAtEachTickUntilItWasSeen)
-{
-    ConnectWith({});
-    for (const wchar_t* pszValue : {L"", L"0", L"2", L"no"})
-    {
-        StoreSetting(L"Options", L"InfoBarFirstTime", pszValue);
-        Send(WM_TIMER, InfoBarTimer);
-    }
-    EXPECT_EQ(4u, m_spBrowser->m_browserBars.size());
-    StoreSetting(L"Options", L"InfoBarFirstTime", L"1");
-    Send(WM_TIMER, InfoBarTimer);
-    EXPECT_EQ(4u, m_spBrowser->m_browserBars.size());
-}
-
-TEST_F(ToolbarWindow, LetsItsTimerRunOn)
-{
-    ConnectWith({});
-    constexpr UINT aMinute = 60000;
-    ASSERT_NE(0u, SetTimer(GetBandWindow(), InfoBarTimer, aMinute, nullptr));
-    Send(WM_TIMER, InfoBarTimer);
-    EXPECT_TRUE(KillTimer(GetBandWindow(), InfoBarTimer)) << "it was still there";
-}
-
-TEST_F(ToolbarWindow, OpensNothingOnAnotherTimer)
-{
-    ConnectWith({});
-    StoreSetting(L"Options", L"InfoBarFirstTime", L"");
-    for (const UINT_PTR nTimer : {UINT_PTR(0), InfoBarTimer - 1, InfoBarTimer + 1})
-        Send(WM_TIMER, nTimer);
-    EXPECT_EQ(0u, m_spBrowser->m_browserBars.size());
-}
-
-TEST_F(ToolbarWindow, OpensNothingWithoutABrowser)
-{
-    CFakeCalls::Get().FailAll("BandSite.QueryService", E_NOINTERFACE);
-    ConnectWith({});
-    StoreSetting(L"Options", L"InfoBarFirstTime", L"");
-    Send(WM_TIMER, InfoBarTimer);
-    EXPECT_EQ(0u, m_spBrowser->m_browserBars.size());
 }
 
 TEST_F(ToolbarWindow, MakesItsItemsAnewWhenTheThemeChanges)

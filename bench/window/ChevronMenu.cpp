@@ -58,6 +58,8 @@ CUniqueMenu MakeMenu(HWND hToolbar)
         const UINT nState = button.fsState & TBSTATE_ENABLED ? MF_ENABLED : MF_GRAYED;
         AppendMenuW(menu.get(), MF_STRING | nState, i + 1, GetItemText(hToolbar, i).c_str());
     }
+    if (GetMenuItemCount(menu.get()) == 0)
+        AppendMenuW(menu.get(), MF_STRING | MF_GRAYED, 0, L"The boxes need a wider window");
     return menu;
 }
 

@@ -1,0 +1,99 @@
+"""Runs the bench browser with a script of steps and tells what came of it."""
+
+import os
+import pathlib
+import signal
+import subprocess
+import tempfile
+import time
+import unittest
+
+ROOT = pathlib.Path(__file__).resolve().parents[2]
+SCRIPTS = ROOT / "scripts"
+BROWSER = pathlib.Path(os.environ["BENCH_BROWSER"])
+
+RUN_SECONDS = 300
+GONE_SECONDS = 60
+ENGINE_PROFILE = "bench-engine."
+
+
+def read(path):
+    try:
+        return pathlib.Path(path).read_bytes()
+    except OSError:
+        return b""
+
+
+def processes():
+    """The numbers and command lines of all processes below this one's session that belong to a browser or its engine."""
+    found = {}
+    for entry in pathlib.Path("/proc").iterdir():
+        if entry.name.isdigit():
+            command = read(entry / "cmdline").replace(b"\0", b" ").decode(errors="replace")
+            if ENGINE_PROFILE in command or "iexplore.exe" in command or "launch-engine.sh" in command:
+                found[int(entry.name)] = command
+    return {pid: command for pid, command in found.items() if is_ours(pid)}
+
+
+def is_ours(pid):
+    """Whether the process runs for this Wine prefix; its engine and helpers inherit the setting."""
+    return f"WINEPREFIX={os.environ['WINEPREFIX']}".encode() in read(f"/proc/{pid}/environ").split(b"\0")
+
+
+def engine_process():
+    """The engine's first process, which has started the others; None while there is none."""
+    for pid, command in processes().items():
+        if "--user-data-dir" in command and "--type=" not in command and "launch-engine" not in command:
+            return pid
+    return None
+
+
+class Run:
+    """What a run of the browser left behind."""
+
+    def __init__(self, code, output, errors, events, folder):
+        self.code, self.output, self.errors, self.events, self.folder = code, output, errors, events, folder
+
+
+class BenchTest(unittest.TestCase):
+    """A test that runs the browser. Whatever it did, no process of it may be left."""
+
+    def setUp(self):
+        self.folder = pathlib.Path(tempfile.mkdtemp(prefix="bench-test."))
+        self.addCleanup(lambda: subprocess.run(["rm", "-rf", self.folder], check=True))
+        self.addCleanup(self.expect_nothing_left)
+
+    def expect_nothing_left(self):
+        end = time.monotonic() + GONE_SECONDS
+        while left := processes():
+            if time.monotonic() > end:
+                for pid in left:
+                    os.kill(pid, signal.SIGKILL)
+                self.fail(f"processes are left: {left}")
+            time.sleep(0.1)
+
+    def start(self, *options):
+        """Starts the browser with the options; the caller waits for its end."""
+        command = [SCRIPTS / "wine", os.environ["WINEPREFIX"], BROWSER, *options]
+        return subprocess.Popen(command, stdin=subprocess.DEVNULL, stdout=subprocess.PIPE, stderr=subprocess.PIPE)
+
+    def start_script(self, steps, *options):
+        script = self.folder / "test.steps"
+        script.write_text(steps, encoding="utf-8")
+        return self.start(*options, "--script", script, "--output", self.folder, "--log-events", self.folder / "events.txt")
+
+    def finish(self, process):
+        try:
+            output, errors = process.communicate(timeout=RUN_SECONDS)
+        except subprocess.TimeoutExpired:
+            process.kill()
+            self.fail("the browser doesn't end")
+        # Behind a bar the log tells how the frames stood at the event.
+        events = [line.split(" | ")[0] for line in read(self.folder / "events.txt").decode().splitlines()]
+        return Run(process.returncode, output.decode(), errors.decode(), events, self.folder)
+
+    def run_script(self, steps, *options):
+        """Runs the steps and expects them to succeed without a word."""
+        run = self.finish(self.start_script(steps, *options))
+        self.assertEqual((run.code, run.errors), (0, ""), "\n".join(run.events))
+        return run

@@ -60,31 +60,34 @@ void CLoadTracker::OnRequestAllowed(const std::string& frameId)
 void CLoadTracker::OnCommitted(const std::string& frameId, const std::wstring& url, const std::wstring& name,
                                const std::wstring& unreachableUrl)
 {
+    if (const CPageFrame* const pFrame = m_frames.Find(frameId))
+        for (const std::string& childId : std::vector(pFrame->children))
+            OnDetached(childId);
     CPageFrame* const pFrame = m_frames.Find(frameId);
     if (pFrame == nullptr)
         return;
-    for (const std::string& childId : std::vector(pFrame->children))
-        OnDetached(childId);
     ++pFrame->nDocument;
     pFrame->strUrl = unreachableUrl.empty() ? url : unreachableUrl;
     pFrame->strName = name;
     pFrame->bCommitted = true;
-    if (pFrame->bDownloading)
-        pFrame->eState = ELoadState::Interactive;
     const bool bReload = pFrame->bReload;
-    // The empty document that a new frame begins with comes without an announcement.
     const bool bUnannounced = !pFrame->bDownloading;
     if (bUnannounced)
-    {
-        m_events.OnBeforeNavigate({.strFrameId = frameId, .strUrl = url});
-        Begin(frameId);
-    }
+        Announce(frameId, url);
+    else
+        pFrame->eState = ELoadState::Interactive;
     if (!unreachableUrl.empty())
         m_events.OnNavigateError(frameId, unreachableUrl);
     if (!bReload)
         m_events.OnNavigateComplete(frameId);
     if (bUnannounced)
         OnStoppedLoading(frameId);
+}
+
+void CLoadTracker::Announce(const std::string& frameId, const std::wstring& url)
+{
+    m_events.OnBeforeNavigate({.strFrameId = frameId, .strUrl = url});
+    Begin(frameId);
 }
 
 void CLoadTracker::OnMovedWithinDocument(const std::string& frameId, const std::wstring& url, bool bByAnchor)
@@ -115,7 +118,9 @@ void CLoadTracker::OnStoppedLoading(const std::string& frameId)
         return;
     const bool bNewDocument = pFrame->bCommitted && !pFrame->bReload;
     End(frameId);
-    if (bNewDocument)
+    // A listener may have begun another load, whose end is then the next to be told.
+    const CPageFrame* const pStillThere = m_frames.Find(frameId);
+    if (bNewDocument && pStillThere && !pStillThere->bDownloading)
         m_events.OnDocumentComplete(frameId);
 }
 

@@ -64,6 +64,8 @@ public:
     void OnDetached(const std::string& frameId);
 
 private:
+    /// The empty document that a new frame begins with comes without a begin.
+    void Announce(const std::string& frameId, const std::wstring& url);
     void Begin(const std::string& frameId);
     void End(const std::string& frameId);
 

@@ -88,9 +88,9 @@ void CPage::OnFrameStartedNavigating(const Json& params)
 void CPage::OnFrameStoppedLoading(const Json& params)
 {
     const std::string frameId = GetNarrowText(params, "frameId");
+    m_tracker.OnStoppedLoading(frameId);
     if (m_frames.IsTop(frameId))
         UpdateTitle();
-    m_tracker.OnStoppedLoading(frameId);
 }
 
 void CPage::OnNavigatedWithinDocument(const Json& params)

@@ -235,8 +235,8 @@ TEST_F(LoadEvents, LetASinkNavigateElsewhere)
             Navigate(UrlOf(L"/second.html"));
         }
     });
-    Load(L"/first.html");
-    EXPECT_EQ(m_window.m_strTitle, L"Second");
+    Navigate(UrlOf(L"/first.html"));
+    ASSERT_TRUE(PumpUntil([this] { return m_window.m_strTitle == L"Second"; }) && PumpUntilQuiet());
     EXPECT_EQ(TakeEvents().back(), "DocumentComplete top /second.html");
 }
 

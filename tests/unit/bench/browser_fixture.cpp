@@ -72,7 +72,7 @@ void BrowserTest::SetUp()
     GetPage().SetSize(800, 600);
     m_spRecorder = MakeObject<CEventRecorder>();
     m_spRecorder->m_nameUrl = [](const std::wstring& url) {
-        const std::wstring host = UrlOf(L"");
+        const std::wstring host = UrlOf({});
         return ToUtf8(url.starts_with(host) ? url.substr(host.size()) : url);
     };
     m_spRecorder->m_nameFrame = [this](IDispatch* pFrame) { return NameFrame(pFrame); };

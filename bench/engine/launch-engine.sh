@@ -16,7 +16,11 @@ engine_pid=
 leave() {
     # Nothing of the profile is wanted afterwards, so there is nothing to say good-bye for.
     [ -n "$engine_pid" ] && kill -KILL -- "-$engine_pid" && wait "$engine_pid"
-    rm -rf "$profile"
+    # Its processes may still be writing while they end.
+    for _ in {1..20}; do
+        rm -rf "$profile" && break
+        sleep 0.1
+    done
 } 2>/dev/null
 trap leave EXIT
 trap 'exit 1' TERM INT HUP

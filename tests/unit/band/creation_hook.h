@@ -10,8 +10,8 @@
 class CCreationHook
 {
 public:
-    /// The answer tells whether a window of the class may be created.
-    using Ask = std::function<bool(const std::wstring& strClass)>;
+    /// The answer tells whether the window of the class may be created.
+    using Ask = std::function<bool(const std::wstring& strClass, const CREATESTRUCTW& creation)>;
 
     explicit CCreationHook(Ask ask) : m_hHook(SetWindowsHookExW(WH_CBT, &OnEvent, nullptr, GetCurrentThreadId()))
     {
@@ -30,7 +30,7 @@ private:
     {
         wchar_t szClass[32] = {};
         GetClassNameW(reinterpret_cast<HWND>(wParam), szClass, ARRAYSIZE(szClass));
-        if (nCode == HCBT_CREATEWND && !s_ask(szClass))
+        if (nCode == HCBT_CREATEWND && !s_ask(szClass, *reinterpret_cast<const CBT_CREATEWNDW*>(lParam)->lpcs))
             return TRUE;
         return CallNextHookEx(nullptr, nCode, wParam, lParam);
     }

@@ -71,7 +71,8 @@ TEST_F(FailingSite, IsHalfConnectedWhenTheToolbarCannotBeCreated)
 {
     for (const wchar_t* pszRefused : {TOOLBARCLASSNAMEW, L"TrelvixWnd"})
     {
-        const CCreationHook hook([&](const std::wstring& strClass) { return strClass != pszRefused; });
+        const CCreationHook hook(
+            [&](const std::wstring& strClass, const CREATESTRUCTW&) { return strClass != pszRefused; });
         CFakeCalls::Get().ClearLog();
         EXPECT_EQ(E_FAIL, GiveSite(GetSiteObject()));
         EXPECT_TRUE(HasSite());

@@ -36,14 +36,20 @@ TEST_F(SetSite, MakesTheToolbarAChildOfTheSitesWindow)
 
 TEST_F(SetSite, GivesTheToolbarItsStyle)
 {
+    LONG lStyle = 0;
+    const CCreationHook hook([&](const std::wstring& strClass, const CREATESTRUCTW& creation) {
+        if (strClass == TOOLBARCLASSNAMEW)
+            lStyle = creation.style;
+        return true;
+    });
     Connect();
-    EXPECT_EQ(0x5401994F, GetWindowLongPtrW(GetBandWindow(), GWL_STYLE) & ~static_cast<LONG_PTR>(WS_CLIPCHILDREN));
+    EXPECT_EQ(0x5401994F, lStyle);
 }
 
 TEST_F(SetSite, CreatesTheToolbarUnderTheLibrarysManifest)
 {
     bool bRedirected = false;
-    const CCreationHook hook([&](const std::wstring& strClass) {
+    const CCreationHook hook([&](const std::wstring& strClass, const CREATESTRUCTW&) {
         bRedirected |= strClass == TOOLBARCLASSNAMEW && AreCommonControlsRedirected();
         return true;
     });

@@ -24,7 +24,8 @@ bool IsOwnPage(const std::wstring& address)
 {
     const std::wstring file = address.substr(0, address.find_first_of(L"?#"));
     const bool bPlain = file.find_first_of(L":\\/ ") == std::wstring::npos;
-    return bPlain && (file.ends_with(L".html") || file == L"slow" || file == L"redirect" || file == L"download");
+    return bPlain && (file.ends_with(L".html") || file == L"slow" || file == L"redirect" || file == L"search" ||
+                      file == L"download");
 }
 } // namespace
 

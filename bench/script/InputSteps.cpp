@@ -72,6 +72,18 @@ void CScriptRunner::ExpectMenu(const Arguments&)
     WaitUntil([] { return IsWindowVisible(FindWindowW(MenuClass, nullptr)) != FALSE; }, L"no menu is open");
 }
 
+void CScriptRunner::ExpectBox(const Arguments& arguments)
+{
+    const RECT rect = GetButtonRect(std::stoi(arguments[0]), true);
+    const POINT middle = {(rect.left + rect.right) / 2, (rect.top + rect.bottom) / 2};
+    const auto reads = [&] {
+        wchar_t text[MAX_PATH] = {};
+        SendMessageW(WindowFromPoint(middle), WM_GETTEXT, std::size(text), reinterpret_cast<LPARAM>(text));
+        return text == arguments[1];
+    };
+    WaitUntil(reads, L"the box doesn't read " + arguments[1]);
+}
+
 void CScriptRunner::MovePointer(const Arguments& arguments)
 {
     SetCursorPos(std::stoi(arguments[0]), std::stoi(arguments[1]));

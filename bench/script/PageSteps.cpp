@@ -88,22 +88,17 @@ void CScriptRunner::WaitForEvent(const Arguments& arguments)
 void CScriptRunner::ExpectAddress(const Arguments& arguments)
 {
     const std::wstring url = m_host.CompleteAddress(arguments[0]);
-    std::wstring actual;
     const auto isThere = [&] {
+        std::wstring actual;
         OnFrame([&](CFrameWindow& frame) { actual = frame.GetAddress(); });
         return actual == url;
     };
-    WaitUntil(isThere, L"the address is " + actual);
+    WaitUntil(isThere, L"the address is not " + url);
 }
 
 void CScriptRunner::ExpectTitle(const Arguments& arguments)
 {
-    std::wstring actual;
-    const auto isThere = [&] {
-        actual = GetState().strTitle;
-        return actual == arguments[0];
-    };
-    WaitUntil(isThere, L"the title is not " + Named(arguments[0]));
+    WaitUntil([&] { return GetState().strTitle == arguments[0]; }, L"the title is not " + Named(arguments[0]));
 }
 
 void CScriptRunner::ExpectStatus(const Arguments& arguments)
@@ -123,12 +118,7 @@ void CScriptRunner::ExpectBack(const Arguments& arguments)
 
 void CScriptRunner::ExpectInPage(const Arguments& arguments)
 {
-    std::wstring answer;
-    const auto holds = [&] {
-        answer = AskPage(arguments[0]);
-        return answer == L"true";
-    };
-    WaitUntil(holds, L"the page doesn't answer true to " + arguments[0]);
+    WaitUntil([&] { return AskPage(arguments[0]) == L"true"; }, L"the page doesn't answer true to " + arguments[0]);
 }
 
 std::wstring CScriptRunner::AskPage(const std::wstring& expression)

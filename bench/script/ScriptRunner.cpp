@@ -10,7 +10,7 @@
 
 namespace
 {
-constexpr DWORD StepTimeoutMs = 30'000;
+constexpr DWORD StepTimeoutMs = 60'000;
 constexpr DWORD PollMs = 20;
 } // namespace
 
@@ -49,6 +49,7 @@ const CScriptRunner::CStepRow CScriptRunner::stepTable[] = {
     {L"drop-down", L"INDEX", &CScriptRunner::DropDown},
     {L"open-chevron", L"", &CScriptRunner::OpenChevron},
     {L"expect-menu", L"", &CScriptRunner::ExpectMenu},
+    {L"expect-box", L"INDEX TEXT", &CScriptRunner::ExpectBox},
     {L"expect-focus", L"address|toolbar|page", &CScriptRunner::ExpectFocus},
     {L"move-pointer", L"X Y", &CScriptRunner::MovePointer},
     {L"open-window", L"[ADDRESS]", &CScriptRunner::OpenWindow},
@@ -190,8 +191,14 @@ void CScriptRunner::Settle()
 {
     // The picture is the engine's last answer; the tab takes what came before it with its next messages.
     OnTab([](CTabWindow& window) { window.FinishDrawing(); });
-    OnTab([](CTabWindow&) {});
-    OnFrame([](CFrameWindow& frame) { RedrawWindow(frame, nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN); });
+    const auto isIdle = [this] {
+        bool bIdle = true;
+        const auto look = [&] { bIdle = bIdle && HIWORD(GetQueueStatus(QS_INPUT | QS_PAINT)) == 0; };
+        OnTab([&](CTabWindow&) { look(); });
+        OnFrame([&](CFrameWindow&) { look(); });
+        return bIdle;
+    };
+    WaitUntil(isIdle, L"the window doesn't come to rest");
 }
 
 void CScriptRunner::Mark()

@@ -64,6 +64,8 @@ private:
     void DropDown(const Arguments& arguments);
     void OpenChevron(const Arguments& arguments);
     void ExpectMenu(const Arguments& arguments);
+    /// What the box reads that stands over a button of the toolbar.
+    void ExpectBox(const Arguments& arguments);
     void ExpectFocus(const Arguments& arguments);
     void MovePointer(const Arguments& arguments);
 
@@ -98,7 +100,7 @@ private:
     void ClickInPage(const std::wstring& elementExpression, const std::wstring& what);
     RECT GetButtonRect(int nIndex, bool bScreen);
     void ClickScreen(POINT point);
-    /// Waits until all that the engine has told so far has reached the window.
+    /// Waits until all that the engine has told so far and all input has reached the window and has been drawn.
     void Settle();
     /// From here on later events count.
     void Mark();

@@ -6,5 +6,5 @@
 int GetContentWidth(HWND hToolbar);
 
 /// Shows a menu of the toolbar's buttons that don't fit into its window, and clicks the one that the person chooses.
-/// `point` is the menu's upper left corner on the screen.
+/// `point` is the menu's upper right corner on the screen.
 void ShowChevronMenu(HWND hToolbar, POINT point);

@@ -170,10 +170,21 @@ void CPageWindow::PassButton(UINT message, POINT point)
     }
     m_pBrowser->GetPage().MouseEvent(bUp ? EMouseEvent::Released : EMouseEvent::Pressed, point, GetButton(message),
                                      bDouble ? 2 : 1, GetInputModifiers());
+    if (message != WM_RBUTTONUP)
+        return;
+    ClientToScreen(m_hWnd, &point);
+    m_pBrowser->AskForContextMenu(point);
 }
 
 LRESULT CPageWindow::OnKeyDown(WPARAM wParam, LPARAM lParam)
 {
+    MSG msg = {};
+    msg.hwnd = m_hWnd;
+    msg.message = WM_KEYDOWN;
+    msg.wParam = wParam;
+    msg.lParam = lParam;
+    if (m_pBrowser->TranslateKey(msg))
+        return 0;
     m_pBrowser->GetPage().KeyDown(static_cast<UINT>(wParam), GetScanCode(lParam), GetInputModifiers());
     return 0;
 }
@@ -193,12 +204,14 @@ LRESULT CPageWindow::OnChar(WPARAM wParam, LPARAM)
 LRESULT CPageWindow::OnSetFocus(WPARAM, LPARAM)
 {
     m_pBrowser->GetPage().SetFocus(true);
+    m_pBrowser->OnActivate(true);
     return 0;
 }
 
 LRESULT CPageWindow::OnKillFocus(WPARAM, LPARAM)
 {
     m_pBrowser->GetPage().SetFocus(false);
+    m_pBrowser->OnActivate(false);
     return 0;
 }
 

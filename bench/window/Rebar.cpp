@@ -104,7 +104,7 @@ void CRebar::OnChevron(const NMREBARCHEVRON& chevron)
     band.cbSize = sizeof band;
     band.fMask = RBBIM_CHILD;
     SendMessageW(m_hWnd, RB_GETBANDINFOW, chevron.uBand, reinterpret_cast<LPARAM>(&band));
-    POINT point = {chevron.rc.left, chevron.rc.bottom};
+    POINT point = {chevron.rc.right, chevron.rc.bottom};
     ClientToScreen(m_hWnd, &point);
     ShowChevronMenu(band.hwndChild, point);
 }

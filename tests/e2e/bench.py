@@ -75,7 +75,9 @@ class BenchTest(unittest.TestCase):
     def start(self, *options):
         """Starts the browser with the options; the caller waits for its end."""
         command = [SCRIPTS / "wine", os.environ["WINEPREFIX"], BROWSER, *options]
-        return subprocess.Popen(command, stdin=subprocess.DEVNULL, stdout=subprocess.PIPE, stderr=subprocess.PIPE)
+        # Files, since the settings broker inherits them and outlives the browser: the end of a pipe would not come.
+        with open(self.folder / "output", "wb") as output, open(self.folder / "errors", "wb") as errors:
+            return subprocess.Popen(command, stdin=subprocess.DEVNULL, stdout=output, stderr=errors)
 
     def start_script(self, steps, *options):
         script = self.folder / "test.steps"
@@ -84,13 +86,15 @@ class BenchTest(unittest.TestCase):
 
     def finish(self, process):
         try:
-            output, errors = process.communicate(timeout=RUN_SECONDS)
+            process.wait(RUN_SECONDS)
         except subprocess.TimeoutExpired:
             process.kill()
+            process.wait()
             self.fail("the browser doesn't end")
         # Behind a bar the log tells how the frames stood at the event.
         events = [line.split(" | ")[0] for line in read(self.folder / "events.txt").decode().splitlines()]
-        return Run(process.returncode, output.decode(), errors.decode(), events, self.folder)
+        output, errors = (read(self.folder / name).decode() for name in ("output", "errors"))
+        return Run(process.returncode, output, errors, events, self.folder)
 
     def run_script(self, steps, *options):
         """Runs the steps and expects them to succeed without a word."""

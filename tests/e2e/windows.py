@@ -7,7 +7,7 @@ import unittest
 
 from bench import BenchTest
 
-BUTTONS = 21  # of the default layout, with its separators
+BUTTONS = 22  # of the default layout, with its separators
 
 
 def read_png(path):
@@ -150,7 +150,7 @@ class Windows(BenchTest):
             wait-for-load
             picture themed
             visual-style off
-            expect-toolbar 21
+            expect-toolbar 22
             picture plain
             visual-style on
             """)

@@ -9,7 +9,7 @@ END_MESSAGE_MAP()
 
 void CReflexionWnd::OnButtonCommand(UINT nID)
 {
-    if (CTrelvixButton* pButton = m_pToolbar ? m_pToolbar->GetVisibleButton(nID - FirstButtonCommand) : nullptr)
+    if (CTrelvixButton* pButton = m_pToolbar ? m_pToolbar->GetVisibleButton(GetIndexOfCommand(nID)) : nullptr)
         pButton->OnCommand(nID);
 }
 
@@ -18,6 +18,6 @@ void CReflexionWnd::OnToolbarDropDown(NMHDR* pHeader, LRESULT* pResult)
     auto* pNotification = reinterpret_cast<NMTOOLBARW*>(pHeader);
     const int nCommand = pNotification->iItem;
     *pResult = TBDDRET_DEFAULT;
-    if (CTrelvixButton* pButton = m_pToolbar ? m_pToolbar->GetVisibleButton(nCommand - FirstButtonCommand) : nullptr)
+    if (CTrelvixButton* pButton = m_pToolbar ? m_pToolbar->GetVisibleButton(GetIndexOfCommand(nCommand)) : nullptr)
         pButton->OnDropDown(pNotification, nCommand);
 }

@@ -16,6 +16,12 @@ struct IHTMLDocument2;
 /// Command number of the item with index 0; an item's command is this plus its index.
 inline constexpr int FirstButtonCommand = 1024;
 
+/// The index of the item with the command number; -1 for a number below all of theirs.
+constexpr int GetIndexOfCommand(int nCommand)
+{
+    return nCommand < FirstButtonCommand ? -1 : nCommand - FirstButtonCommand;
+}
+
 /// String number of the label of the item with index 0.
 inline constexpr UINT FirstButtonLabel = 1000;
 

@@ -93,6 +93,7 @@ class Windows(BenchTest):
             """)
 
     def test_focus(self):
+        """Tab goes through address, the toolbar's three boxes and the page, and back again."""
         self.run_script("""
             wait-for-load
             navigate forms.html
@@ -105,11 +106,15 @@ class Windows(BenchTest):
             expect-focus address
             key F6
             expect-focus toolbar
-            key F6
+            key Tab
+            key Tab
+            key Tab
             expect-focus page
             key Shift+F6
             expect-focus toolbar
-            key Alt+D
+            key Shift+Tab
+            key Shift+Tab
+            key Shift+Tab
             expect-focus address
             """)
 

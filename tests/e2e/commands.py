@@ -101,6 +101,21 @@ class Commands(BenchTest):
         self.expect_cancelled(run, "1 BeforeNavigate2 page trelvix:newieinstance?")
         self.assertEqual([command for command in processes().values() if "text.html" in command], [])
 
+    def test_script_errors_that_no_item_takes_are_the_browsers_own(self):
+        self.run_script("""
+            wait-for-load
+            navigate script-error.html
+            expect-dialog "textContent"
+            answer Yes
+            expect-dialog "undefinedInFrame"
+            answer Yes
+            wait-for-load
+            click #call
+            expect-dialog "missingFunction"
+            answer No
+            expect-address script-error.html
+            """)
+
 
 if __name__ == "__main__":
     unittest.main()

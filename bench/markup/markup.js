@@ -55,7 +55,13 @@ bench.markup = (() => {
         return text;
     };
 
-    const pointersAt = (place) => [...pointers.values()].filter((each) => each.place && places.isSame(each.place, place));
+    const pointersAt = (place) => {
+        const found = [];
+        for (const pointer of pointers.values())
+            if (pointer.place && places.isSame(pointer.place, place))
+                found.push(pointer);
+        return found;
+    };
 
     const putPointers = (at, left, right) => {
         for (const pointer of at)
@@ -220,8 +226,8 @@ bench.markup = (() => {
             try {
                 let answer = null;
                 for (const line of list.split("\n")) {
-                    const [name, ...numbers] = line.split(" ");
-                    answer = operations[name](...numbers.map(Number));
+                    const [name, first, second, third] = line.split(" ");
+                    answer = operations[name](+first, +second, +third);
                 }
                 return answer ?? null;
             } finally {

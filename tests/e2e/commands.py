@@ -1,10 +1,12 @@
 """A page speaks to the toolbar by addresses of its own scheme, and its script errors go through the toolbar."""
 
 import os
+import signal
 import subprocess
 import unittest
 
 from bench import SCRIPTS, BenchTest, processes
+from engine import Page, wait_until
 
 SETTINGS = r"HKCU\Software\Halmere Works\Trelvix\v5"
 ENGINE_SECTION = SETTINGS + r"\Button3"
@@ -45,6 +47,13 @@ class Commands(BenchTest):
     def expect_cancelled(self, run, start):
         commands = [event for event in run.events if event.startswith(start)]
         self.assertEqual([event.endswith(" cancelled") for event in commands], [True], commands)
+
+    def end_all(self, browser):
+        """Ends the browser and those that it started; their engines go with them."""
+        for pid, command in processes().items():
+            if "iexplore.exe" in command:
+                os.kill(pid, signal.SIGKILL)
+        browser.wait()
 
     def test_link_installs_a_search_engine(self):
         run = self.run_script(LOAD + f"""
@@ -88,6 +97,20 @@ class Commands(BenchTest):
         commands = [event for event in run.events if "BeforeNavigate2 frame trelvix:" in event]
         self.assertEqual([event.endswith(" cancelled") for event in commands], [False], commands)
         self.assertIsNone(stored("WebSearchTitle"))
+
+    def test_new_instance(self):
+        """A browser that was started alone starts another with the address as its argument."""
+        browser = self.start()
+        self.addCleanup(self.end_all, browser)
+        page = Page("start.html")
+        self.addCleanup(page.close)
+        wait_until(lambda: page.evaluate("document.readyState === 'complete'"))
+        page.evaluate("document.querySelector('a[href=\"commands.html\"]').click()")
+        wait_until(lambda: page.evaluate("document.readyState === 'complete' && !!document.getElementById('instance')"))
+        page.evaluate("document.getElementById('instance').click()")
+        command = wait_until(lambda: [each for each in processes().values() if "/text.html" in each])[0]
+        self.assertRegex(command, r"iexplore\.exe http://127\.0\.0\.1:\d+/text\.html\s*$")
+        self.assertTrue(page.evaluate("location.pathname === '/commands.html'"))
 
     def test_new_instance_of_a_browser_with_options(self):
         """Only a browser that was started alone starts another; the navigation is cancelled all the same."""

@@ -9,19 +9,20 @@ target_link_libraries(precompiled_for_tests PRIVATE GTest::gmock)
 target_compile_options(precompiled_for_tests PRIVATE ${test_options})
 
 #[[
-trelvix_add_tests(<name> SOURCES <file>... [LIBRARIES <target>...] [TIMEOUT <seconds>] [GUI] [OWN_PREFIX] [TOGETHER])
+trelvix_add_tests(<name> SOURCES <file>... [LIBRARIES <target>...] [TIMEOUT <seconds>] [GUI] [OWN_PREFIX] [APART])
 
-Makes a test program of GoogleTest sources and tells ctest each of its tests.
-- TIMEOUT: how long one test may take, 60 seconds if not given.
-- GUI: the tests show windows or move the pointer, so they run one at a time.
-- OWN_PREFIX: the tests change what other tests rely on (the registration, a killed server); they run one at a time in a
-  Wine prefix that only they use, each in a Wine session of its own, and nothing is registered there.
-- TOGETHER: the tests run one after the other in one process and so in one session; for ctest they are one test.
+Makes a test program of GoogleTest sources, which is one test for ctest: a process of Wine for each of its tests would take
+longer than the tests.
+- TIMEOUT: how long the program may take, or one test of it where they run apart; 300 seconds if not given.
+- GUI: the tests show windows or move the pointer, so no other such program runs meanwhile.
+- OWN_PREFIX: the tests change what other tests rely on (the registration, a killed server); the program has a Wine prefix
+  that only it uses, and in it a Wine session of its own, and nothing is registered there.
+- APART: each test is one for ctest and has a process of its own, and with OWN_PREFIX a session too.
 ]]
 function(trelvix_add_tests name)
-    cmake_parse_arguments(arg "GUI;OWN_PREFIX;TOGETHER" "TIMEOUT" "SOURCES;LIBRARIES" ${ARGN})
+    cmake_parse_arguments(arg "GUI;OWN_PREFIX;APART" "TIMEOUT" "SOURCES;LIBRARIES" ${ARGN})
     if(NOT arg_TIMEOUT)
-        set(arg_TIMEOUT 60)
+        set(arg_TIMEOUT 300)
     endif()
     add_executable(${name} ${arg_SOURCES})
     target_link_libraries(${name} PRIVATE ${arg_LIBRARIES} GTest::gmock_main)
@@ -37,12 +38,12 @@ function(trelvix_add_tests name)
         set(prefix "${CMAKE_BINARY_DIR}/prefix-${name}")
         set(scripts "${CMAKE_SOURCE_DIR}/scripts")
         set_target_properties(${name} PROPERTIES
-            CROSSCOMPILING_EMULATOR "${scripts}/wine-session;${prefix};${scripts}/wine;${prefix}")
+            CROSSCOMPILING_EMULATOR "${scripts}/wine-session;${prefix};${scripts}/wine-test;${prefix}")
     endif()
-    if(arg_TOGETHER)
+    if(arg_APART)
+        gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 60 PROPERTIES ${properties})
+    else()
         add_test(NAME ${name} COMMAND ${name})
         set_tests_properties(${name} PROPERTIES ${properties})
-        return()
     endif()
-    gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 60 PROPERTIES ${properties})
 endfunction()

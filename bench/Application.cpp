@@ -91,7 +91,8 @@ bool CApplication::Start(std::wstring& error)
 bool CApplication::LoadSteps(std::wstring& error)
 {
     if (!m_options.strScreenshot.empty())
-        m_steps = {{0, L"wait-for-load", {}}, {0, L"picture", {m_options.strScreenshot}}};
+        m_steps = {{0, L"wait-for-load", {}},
+                   {0, L"picture", {std::filesystem::path(m_options.strScreenshot).replace_extension().wstring()}}};
     if (m_options.strScript.empty())
         return true;
     std::ifstream file(std::filesystem::path(m_options.strScript), std::ios::binary);

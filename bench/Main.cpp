@@ -2,6 +2,7 @@
 #include "bench/ExitCodes.h"
 #include "bench/Message.h"
 #include "bench/Options.h"
+#include "bench/script/ScriptRunner.h"
 #include "bench/Version.h"
 
 #include <windows.h>
@@ -43,7 +44,7 @@ int WINAPI wWinMain(HINSTANCE, HINSTANCE, LPWSTR, int nShow)
     }
     if (options.bHelp)
     {
-        ShowMessage(GetUsage());
+        ShowMessage(GetUsage() + L"\nSteps of a script, one on each line:\n" + CScriptRunner::GetStepList());
         return EXIT_SUCCESS;
     }
     if (!options.strVersion.empty() && options.strVersion != GetOwnVersion())

@@ -19,7 +19,7 @@ const COptionRow optionTable[] = {
     {L"--engine", L"PROGRAM", &COptions::strEngine, L"the Chromium to show pages with"},
     {L"--script", L"FILE", &COptions::strScript, L"take the steps in the file and end"},
     {L"--output", L"DIR", &COptions::strOutput, L"where the pictures of a script go"},
-    {L"--screenshot", L"FILE", &COptions::strScreenshot, L"take a picture of the first page as PNG and end"},
+    {L"--screenshot", L"FILE", &COptions::strScreenshot, L"take a picture of the first page (FILE.png) and end"},
     {L"--log-events", L"FILE", &COptions::strEventLog, L"write each event of the browser to the file"},
 };
 

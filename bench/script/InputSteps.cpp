@@ -29,6 +29,7 @@ void CScriptRunner::Type(const Arguments& arguments)
 
 void CScriptRunner::PressKey(const Arguments& arguments)
 {
+    Mark();
     if (!SendKeys(arguments[0]))
         throw CStepError {L"there is no key " + arguments[0]};
 }
@@ -82,6 +83,18 @@ void CScriptRunner::ExpectBox(const Arguments& arguments)
         return text == arguments[1];
     };
     WaitUntil(reads, L"the box doesn't read " + arguments[1]);
+}
+
+void CScriptRunner::ExpectOwnRow(const Arguments& arguments)
+{
+    REBARBANDINFOW band = {};
+    band.cbSize = sizeof band;
+    band.fMask = RBBIM_STYLE;
+    OnTab([&](CTabWindow& window) {
+        SendMessageW(GetParent(FindToolbar(window)), RB_GETBANDINFOW, 0, reinterpret_cast<LPARAM>(&band));
+    });
+    if (((band.fStyle & RBBS_BREAK) != 0) != (arguments[0] == L"yes"))
+        throw CStepError {L"the toolbar's wish for a row of its own is another"};
 }
 
 void CScriptRunner::MovePointer(const Arguments& arguments)

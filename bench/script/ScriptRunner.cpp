@@ -50,6 +50,7 @@ const CScriptRunner::CStepRow CScriptRunner::stepTable[] = {
     {L"open-chevron", L"", &CScriptRunner::OpenChevron},
     {L"expect-menu", L"", &CScriptRunner::ExpectMenu},
     {L"expect-box", L"INDEX TEXT", &CScriptRunner::ExpectBox},
+    {L"expect-own-row", L"yes|no", &CScriptRunner::ExpectOwnRow},
     {L"expect-focus", L"address|toolbar|page", &CScriptRunner::ExpectFocus},
     {L"move-pointer", L"X Y", &CScriptRunner::MovePointer},
     {L"open-window", L"[ADDRESS]", &CScriptRunner::OpenWindow},

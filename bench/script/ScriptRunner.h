@@ -66,6 +66,7 @@ private:
     void ExpectMenu(const Arguments& arguments);
     /// What the box reads that stands over a button of the toolbar.
     void ExpectBox(const Arguments& arguments);
+    void ExpectOwnRow(const Arguments& arguments);
     void ExpectFocus(const Arguments& arguments);
     void MovePointer(const Arguments& arguments);
 

@@ -86,7 +86,8 @@ void ShowChevronMenu(HWND hToolbar, POINT point)
     if (!IsToolbar(hToolbar))
         return;
     const CUniqueMenu menu = MakeMenu(hToolbar);
-    const int nChoice = TrackPopupMenu(menu.get(), TPM_RETURNCMD | TPM_RIGHTALIGN, point.x, point.y, 0, GetParent(hToolbar), nullptr);
+    const int nChoice =
+        TrackPopupMenu(menu.get(), TPM_RETURNCMD | TPM_RIGHTALIGN, point.x, point.y, 0, GetParent(hToolbar), nullptr);
     if (nChoice > 0)
         ClickItem(hToolbar, nChoice - 1);
 }

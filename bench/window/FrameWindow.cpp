@@ -151,6 +151,8 @@ LRESULT CFrameWindow::OnSetFocus(WPARAM, LPARAM)
 
 LRESULT CFrameWindow::OnClose(WPARAM, LPARAM)
 {
+    if (!IsWindowEnabled(m_hWnd))
+        return 0;
     m_bClosing = true;
     for (const auto& tab : m_tabs)
         tab->Post([](CTabWindow& window) { window.CloseTab(); });

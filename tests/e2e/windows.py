@@ -132,6 +132,19 @@ class Windows(BenchTest):
             expect-focus address
             """)
 
+    def test_versions(self):
+        """Each build has the version that it is named after."""
+        for version in ("7.5", "8.0", "11.0"):
+            self.run_script(f"""
+                wait-for-load
+                expect-toolbar {BUTTONS}
+                key Alt+H
+                expect-menu
+                key A
+                expect-dialog "Internet Explorer {version}"
+                answer OK
+                """, "--ie-version", version)
+
     def test_keys_reach_the_page(self):
         self.run_script("""
             wait-for-load

@@ -82,7 +82,7 @@ std::string GetQueryValue(const std::string& query, const std::string& name)
     if (nPlace == std::string::npos)
         return {};
     const size_t nBegin = nPlace + key.size();
-    return padded.substr(nBegin, padded.find('&', nBegin) - nBegin);
+    return Decode(padded.substr(nBegin, padded.find('&', nBegin) - nBegin)).value_or(std::string());
 }
 
 const char* GetContentType(const std::string& path)

@@ -15,7 +15,7 @@ struct CHttpRequest
 /// the server can have: with "..", a backslash, a colon or a control character.
 std::optional<CHttpRequest> ParseHttpRequest(const std::string& head);
 
-/// The value of a name in a query, undecoded; empty when it isn't there.
+/// The value of a name in a query, decoded; empty when it isn't there or can't be decoded.
 std::string GetQueryValue(const std::string& query, const std::string& name);
 
 /// The content type for a file's name, by its extension.

@@ -2,6 +2,7 @@
 
 #include "bench/server/HttpRequest.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <fstream>
 #include <iterator>
@@ -46,7 +47,8 @@ std::string EscapeHtml(const std::string& text)
 std::string GetTarget(const CHttpRequest& request)
 {
     const std::string to = GetQueryValue(request.strQuery, "to");
-    const bool bOwn = to.starts_with('/') && !to.starts_with("//") && to.find('\r') == std::string::npos;
+    const bool bOwn = to.starts_with('/') && !to.starts_with("//") &&
+                      std::ranges::none_of(to, [](unsigned char ch) { return ch <= ' '; });
     return bOwn ? to : "/start.html";
 }
 } // namespace
@@ -120,7 +122,7 @@ std::string CPageServer::Answer(const CHttpRequest& request) const
         return MakeAnswer("200 OK", "application/octet-stream", "Saved, not shown.\n",
                           "Content-Disposition: attachment; filename=\"download.bin\"\r\n");
     if (path.starts_with("/status/"))
-        return MakePage(path.substr(8).c_str(), "Status " + EscapeHtml(path.substr(8)),
+        return MakePage((path.substr(8) + " Asked For").c_str(), "Status " + EscapeHtml(path.substr(8)),
                         "The server was asked to say so.");
     if (path == "/search")
         return MakePage("200 OK", "Search",

@@ -50,6 +50,12 @@ TEST(GetQueryValue, FindsANameAtAnyPlace)
     EXPECT_EQ(GetQueryValue("ms=10&name=x", "name"), "x");
 }
 
+TEST(GetQueryValue, DecodesTheValue)
+{
+    EXPECT_EQ(GetQueryValue("to=%2Fa%20b+c", "to"), "/a b+c");
+    EXPECT_EQ(GetQueryValue("to=%2", "to"), "");
+}
+
 TEST(GetQueryValue, IsEmptyForAnotherName)
 {
     EXPECT_EQ(GetQueryValue("items=10", "ms"), "");

@@ -29,6 +29,8 @@ public:
 
     STDMETHODIMP ShowContextMenu(DWORD dwKind, POINT* pPoint, IUnknown* pTarget, IDispatch* pObject) override;
     STDMETHODIMP GetHostInfo(DOCHOSTUIINFO* pInfo) override;
+    STDMETHODIMP UpdateUI() override { return S_OK; }
+    STDMETHODIMP OnDocWindowActivate(BOOL) override { return S_OK; }
     STDMETHODIMP TranslateAccelerator(LPMSG pMsg, const GUID* pGroup, DWORD nCommand) override;
     STDMETHODIMP GetExternal(IDispatch** ppExternal) override;
     STDMETHODIMP TranslateUrl(DWORD dwReserved, OLECHAR* pszUrl, OLECHAR** ppszUrl) override;

@@ -89,6 +89,9 @@ public:
     /// The browser object of its frame; null when the document isn't on show.
     Microsoft::WRL::ComPtr<IWebBrowser2> GetFrameBrowser() const;
 
+    /// Its handler, or the site when none was set for it or it isn't on show.
+    Microsoft::WRL::ComPtr<IDocHostUIHandler> GetUIHandler() const;
+
     /// Hands a script error to the handler of this document or the nearest one above, or else to the site. Whether the
     /// page's scripts shall go on.
     bool ReportScriptError(const CScriptError& error);
@@ -147,8 +150,8 @@ private:
     std::optional<bool> m_bOpenToTop;      ///< once it has been asked
     std::map<int, std::string> m_frameIds; ///< of elements that have been asked for them
     std::unique_ptr<CDocumentMarkup> m_pMarkup;
-    std::map<int, CElement*> m_elements;   ///< that someone holds; each takes itself out
-    CWindow* m_pWindow = nullptr;          ///< while someone holds it
+    std::map<int, CElement*> m_elements; ///< that someone holds; each takes itself out
+    CWindow* m_pWindow = nullptr;        ///< while someone holds it
     Microsoft::WRL::ComPtr<IDocHostUIHandler> m_spUIHandler;
     Microsoft::WRL::ComPtr<CEventObject> m_spEvent;
 };

@@ -35,6 +35,11 @@ STDMETHODIMP CDocument::SetUIHandler(IDocHostUIHandler* pHandler)
     return S_OK;
 }
 
+ComPtr<IDocHostUIHandler> CDocument::GetUIHandler() const
+{
+    return m_spUIHandler || !m_pBrowser ? m_spUIHandler : ComPtr<IDocHostUIHandler>(m_pBrowser->GetClientSite());
+}
+
 ComPtr<IOleCommandTarget> CDocument::FindCommandTarget() const
 {
     if (m_spUIHandler)

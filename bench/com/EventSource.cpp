@@ -6,6 +6,7 @@
 #include <exdisp.h>
 
 #include <algorithm>
+#include <utility>
 
 STDMETHODIMP CEventSource::GetConnectionInterface(IID* pIid)
 {
@@ -56,6 +57,13 @@ STDMETHODIMP CEventSource::EnumConnections(IEnumConnections** ppEnum)
     if (ppEnum != nullptr)
         *ppEnum = nullptr;
     return E_NOTIMPL;
+}
+
+void CEventSource::Detach()
+{
+    m_pContainer = nullptr;
+    // What the end of a sink does must find the list empty.
+    const auto sinks = std::exchange(m_sinks, {});
 }
 
 void CEventSource::Fire(DISPID dispid, std::vector<VARIANT> arguments)

@@ -19,9 +19,10 @@ class CEventSource : public CCountedObject<CEventSource, IConnectionPoint>
     END_COM_MAP()
 
 public:
-    /// `container` is the browser; not counted, Detach when it goes.
+    /// `container` is the browser; not counted.
     explicit CEventSource(IConnectionPointContainer& container) : m_pContainer(&container) {}
-    void Detach() { m_pContainer = nullptr; }
+    /// The browser has been closed: nobody is told anything any longer.
+    void Detach();
 
     STDMETHODIMP GetConnectionInterface(IID* pIid) override;
     STDMETHODIMP GetConnectionPointContainer(IConnectionPointContainer** ppContainer) override;

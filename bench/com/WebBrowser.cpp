@@ -22,7 +22,6 @@ CWebBrowser::CWebBrowser(IBrowserWindow& window, IPageView& view)
 CWebBrowser::~CWebBrowser()
 {
     Close();
-    m_spEvents->Detach();
 }
 
 bool CWebBrowser::Open(CEngine& engine, std::wstring& error)
@@ -32,11 +31,12 @@ bool CWebBrowser::Open(CEngine& engine, std::wstring& error)
 
 void CWebBrowser::Close()
 {
-    if (m_pWindow == nullptr)
+    if (std::exchange(m_bQuit, true))
         return;
     m_spEvents->Fire(DISPID_ONQUIT);
     m_page.Close();
     m_pWindow = nullptr;
+    m_spEvents->Detach();
     m_spSite->Detach();
     for (const auto& [frameId, spDocument] : std::exchange(m_documents, {}))
         spDocument->Detach();
@@ -84,6 +84,29 @@ HRESULT CWebBrowser::GetDocument(const std::string& frameId, IDispatch** ppDocum
         return RPC_E_DISCONNECTED;
     const ComPtr<CDocument> spDocument = GetDocumentObject(*pFrame);
     return spDocument->IsOpenToTop() ? spDocument.CopyTo(ppDocument) : E_ACCESSDENIED;
+}
+
+ComPtr<IDocHostUIHandler> CWebBrowser::GetUIHandler()
+{
+    const CPageFrame* const pTop = m_page.IsOpen() ? m_page.GetFrames().Find(m_page.GetTopFrameId()) : nullptr;
+    return pTop ? GetDocumentObject(*pTop)->GetUIHandler() : ComPtr<IDocHostUIHandler>(m_spSite);
+}
+
+void CWebBrowser::OnActivate(bool bActive)
+{
+    GetUIHandler()->OnDocWindowActivate(bActive);
+}
+
+bool CWebBrowser::TranslateKey(MSG& msg)
+{
+    return GetUIHandler()->TranslateAccelerator(&msg, nullptr, 0) == S_OK;
+}
+
+void CWebBrowser::AskForContextMenu(POINT screenPoint)
+{
+    ComPtr<IDispatch> spDocument;
+    get_Document(&spDocument);
+    GetUIHandler()->ShowContextMenu(CONTEXT_MENU_DEFAULT, &screenPoint, spDocument.Get(), nullptr);
 }
 
 LRESULT CWebBrowser::GetHtmlObject(WPARAM wParam)

@@ -8,6 +8,7 @@
 #include <windows.h>
 #include <comutil.h>
 #include <exdisp.h>
+#include <mshtmhst.h>
 #include <ocidl.h>
 #include <servprov.h>
 #include <wrl/client.h>
@@ -58,6 +59,12 @@ public:
     /// The view's answer to "WM_HTML_GETOBJECT": the document on show, 0 when there is none.
     LRESULT GetHtmlObject(WPARAM wParam);
 
+    /// What the document asks its handler when the view gets or loses the focus, before it takes a key, and for a right
+    /// click. Whether the handler took the key.
+    void OnActivate(bool bActive);
+    bool TranslateKey(MSG& msg);
+    void AskForContextMenu(POINT screenPoint);
+
     /// For the objects over the page: null once the browser has been closed.
     IBrowserWindow* GetWindow() const { return m_pWindow; }
     /// The browser object of a frame, this one for the top; null when there is no such frame.
@@ -104,10 +111,14 @@ private:
     void OnHistoryChanged() override;
     void OnScriptError(const CScriptError& error) override;
 
+    /// The handler of the document on show, or the site in its place.
+    Microsoft::WRL::ComPtr<IDocHostUIHandler> GetUIHandler();
+
     /// An event whose arguments are the frame's browser and its address.
     void FireOfFrame(DISPID dispid, const std::string& frameId);
 
     IBrowserWindow* m_pWindow;
+    bool m_bQuit = false; ///< OnQuit has been told
     CPage m_page;
     Microsoft::WRL::ComPtr<CEventSource> m_spEvents;
     Microsoft::WRL::ComPtr<CClientSite> m_spSite;

@@ -76,6 +76,8 @@ void CWebBrowser::OnNavigateComplete(const std::string& frameId)
 void CWebBrowser::OnDocumentComplete(const std::string& frameId)
 {
     FireOfFrame(DISPID_DOCUMENTCOMPLETE, frameId);
+    if (m_page.GetFrames().IsTop(frameId))
+        GetUIHandler()->UpdateUI();
 }
 
 void CWebBrowser::FireOfFrame(DISPID dispid, const std::string& frameId)

@@ -43,7 +43,8 @@ bool CPage::Prepare()
     Post("Inspector.enable");
     Post("Emulation.setFocusEmulationEnabled", {{"enabled", true}});
     Post("Browser.setDownloadBehavior", {{"behavior", "deny"}});
-    Post("Runtime.addBinding", {{"name", "benchNavigate"}, {"executionContextName", WorldName}});
+    for (const char* const pszBinding : {NavigateBinding, TitleBinding})
+        Post("Runtime.addBinding", {{"name", pszBinding}, {"executionContextName", WorldName}});
     Post("Page.addScriptToEvaluateOnNewDocument",
          {{"source", PageScript}, {"worldName", WorldName}, {"runImmediately", true}});
     // New windows stop before they fetch anything.
@@ -72,7 +73,12 @@ void CPage::End(const std::wstring& reason)
 
 std::optional<Json> CPage::Call(const char* pszMethod, Json params)
 {
-    return m_bOpen ? m_connection->Call(pszMethod, std::move(params)) : std::nullopt;
+    if (!m_bOpen)
+        return std::nullopt;
+    auto result = m_connection->Call(pszMethod, std::move(params));
+    if (m_connection->HasTimedOut())
+        End(L"The page doesn't answer.");
+    return result;
 }
 
 void CPage::Post(const char* pszMethod, Json params, CConnection::Reply reply)

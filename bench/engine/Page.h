@@ -107,7 +107,9 @@ private:
     bool IsUrgent(const std::string& method) const override;
     void OnProtocolClosed() override;
 
-    static constexpr char WorldName[] = "bench"; ///< of page.js in each document
+    static constexpr char WorldName[] = "bench"; ///< of page.js in each document, which calls the two by their names
+    static constexpr char NavigateBinding[] = "benchNavigate";
+    static constexpr char TitleBinding[] = "benchTitle";
 
     using Handler = void (CPage::*)(const Json& params);
     static const std::map<std::string, Handler>& GetHandlers();
@@ -144,6 +146,8 @@ private:
     void GoInHistory(int nSteps);
     void OnTopShown(const std::wstring& url);
     void UpdateTitle();
+    void SetTitle(const std::wstring& title);
+    void OnScriptLink(const std::string& frameId, const std::wstring& url);
     void UpdateLoading();
     void StartPictures();
     void End(const std::wstring& reason);

@@ -154,13 +154,16 @@ void CPage::OnDomContentEvent(const Json&)
 void CPage::UpdateTitle()
 {
     const Json title = Evaluate(GetTopFrameId(), L"document.title");
-    if (!title.is_string())
+    if (title.is_string())
+        SetTitle(FromUtf8(title.get<std::string>()));
+}
+
+void CPage::SetTitle(const std::wstring& title)
+{
+    if (std::exchange(m_strTitle, title) == title)
         return;
-    const std::wstring text = FromUtf8(title.get<std::string>());
-    if (std::exchange(m_strTitle, text) == text)
-        return;
-    m_view.OnTitleChanged(text);
-    m_events.OnTitleChanged(text);
+    m_view.OnTitleChanged(title);
+    m_events.OnTitleChanged(title);
 }
 
 void CPage::UpdateLoading()

@@ -92,7 +92,14 @@ void CPage::OnBindingCalled(const Json& params)
     if (world == m_worlds.end())
         return;
     const std::string frameId = world->first;
-    const std::wstring url = GetText(params, "payload");
+    if (GetNarrowText(params, "name") == NavigateBinding)
+        OnScriptLink(frameId, GetText(params, "payload"));
+    else if (m_frames.IsTop(frameId))
+        SetTitle(GetText(params, "payload"));
+}
+
+void CPage::OnScriptLink(const std::string& frameId, const std::wstring& url)
+{
     if (m_events.OnBeforeNavigate({.strFrameId = frameId, .strUrl = url}))
         RunScript(frameId, ToUtf8(GetScriptOfUrl(url)));
 }

@@ -38,6 +38,17 @@ globalThis.bench = (() => {
         benchNavigate(link.href);
     });
 
+    // A title that a script changes.
+    if (window === window.top)
+        window.addEventListener("DOMContentLoaded", () => {
+            if (document.head)
+                new MutationObserver(() => benchTitle(document.title)).observe(document.head, {
+                    childList: true,
+                    characterData: true,
+                    subtree: true,
+                });
+        });
+
     return {
         element: (number) => elements.get(number),
 

@@ -5,7 +5,8 @@
 namespace
 {
 constexpr UINT WM_ARRIVAL = WM_APP;
-constexpr DWORD CallTimeoutMs = 15000;
+constexpr DWORD CallTimeoutMs = 30000;
+constexpr DWORD CloseTimeoutMs = 2000;
 
 bool IsEvent(const Json& message)
 {
@@ -48,6 +49,8 @@ void CConnection::Close()
     if (!m_reader.joinable())
         return;
     m_socket.Shutdown();
+    if (!m_queue.WaitForEnd(CloseTimeoutMs))
+        m_socket.Abort();
     m_reader.join();
     DestroyWindow();
 }
@@ -108,9 +111,9 @@ bool CConnection::WaitForReply(int nId)
                 m_answers[nId] = std::move(*answer);
         if (m_answers.contains(nId))
             return true;
-        HandleUrgent();
-        if (m_answers.contains(nId))
-            return true;
+        // What was handled may have waited as well, and taken the signal of the answer that is wanted here.
+        if (HandleUrgent())
+            continue;
         if (m_bAbandoned || m_queue.HasEnded() || !WaitForArrival(ullEnd))
             return false;
     }
@@ -119,7 +122,8 @@ bool CConnection::WaitForReply(int nId)
 bool CConnection::WaitForArrival(ULONGLONG ullEnd)
 {
     const ULONGLONG ullNow = GetTickCount64();
-    if (ullNow >= ullEnd)
+    m_bTimedOut = ullNow >= ullEnd;
+    if (m_bTimedOut)
         return false;
     const HANDLE hArrival = m_queue.GetArrivalEvent();
     MsgWaitForMultipleObjects(1, &hArrival, FALSE, static_cast<DWORD>(ullEnd - ullNow), QS_SENDMESSAGE);
@@ -128,15 +132,20 @@ bool CConnection::WaitForArrival(ULONGLONG ullEnd)
     return true;
 }
 
-void CConnection::HandleUrgent()
+bool CConnection::HandleUrgent()
 {
     const auto isUrgent = [this](const Json& message) {
         return IsEvent(message) && m_events.IsUrgent(GetNarrowText(message, "method"));
     };
     // What came before an urgent event is handled before it, so that no event overtakes another.
+    bool bHandled = false;
     while (!m_bClosedTold && m_queue.Holds(isUrgent))
         if (const auto message = TakeNext())
+        {
             Handle(*message);
+            bHandled = true;
+        }
+    return bHandled;
 }
 
 std::optional<Json> CConnection::TakeNext()

@@ -54,6 +54,9 @@ public:
     /// Calls a method without waiting. No reply comes when the engine has gone meanwhile.
     void Post(const char* pszMethod, Json params = Json::object(), Reply reply = nullptr);
 
+    /// Whether a call has waited for its answer in vain.
+    bool HasTimedOut() const { return m_bTimedOut; }
+
     /// Ends all waiting calls: the target will never answer them.
     void Abandon() { m_bAbandoned = true; }
 
@@ -66,7 +69,8 @@ private:
     int Send(const char* pszMethod, Json params);
     bool WaitForReply(int nId);
     bool WaitForArrival(ULONGLONG ullEnd);
-    void HandleUrgent();
+    /// Whether there was anything urgent.
+    bool HandleUrgent();
     std::optional<Json> TakeNext();
     void Handle(const Json& message);
     void HandleReply(const Json& message);
@@ -80,5 +84,6 @@ private:
     std::map<int, Json> m_answers;  ///< answers that came while something else was handled
     std::map<int, Reply> m_replies; ///< what to do with answers that nobody waits for
     bool m_bAbandoned = false;
+    bool m_bTimedOut = false;
     bool m_bClosedTold = false;
 };

@@ -45,3 +45,11 @@ bool CMessageQueue::HasEnded() const
     const std::lock_guard lock(m_lock);
     return m_bEnded;
 }
+
+bool CMessageQueue::WaitForEnd(DWORD dwTimeoutMs) const
+{
+    const ULONGLONG ullEnd = GetTickCount64() + dwTimeoutMs;
+    for (ULONGLONG ullNow = GetTickCount64(); !HasEnded() && ullNow < ullEnd; ullNow = GetTickCount64())
+        WaitForSingleObject(m_arrival.get(), static_cast<DWORD>(ullEnd - ullNow));
+    return HasEnded();
+}

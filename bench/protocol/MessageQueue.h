@@ -26,6 +26,8 @@ public:
     bool Holds(const std::function<bool(const Json&)>& accepts) const;
 
     bool HasEnded() const;
+    /// Waits for the end; false when it doesn't come in time.
+    bool WaitForEnd(DWORD dwTimeoutMs) const;
 
     /// Signalled by each message and by the end; resets itself when waited for.
     HANDLE GetArrivalEvent() const { return m_arrival.get(); }

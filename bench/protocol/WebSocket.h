@@ -21,6 +21,8 @@ public:
 
     /// Says that nothing more will be sent; the other side then ends the connection, and with it a Receive under way.
     void Shutdown();
+    /// Ends the connection at once, for another side that doesn't answer.
+    void Abort() { m_socket.reset(); }
 
 private:
     CUniqueInternetHandle m_socket;

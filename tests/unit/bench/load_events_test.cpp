@@ -240,6 +240,47 @@ TEST_F(LoadEvents, LetASinkNavigateElsewhere)
     EXPECT_EQ(TakeEvents().back(), "DocumentComplete top /second.html");
 }
 
+TEST_F(LoadEvents, LetASinkCloseTheBrowserInsideAnyOfThem)
+{
+    Serve("/leaf.html", "<p>Leaf");
+    Serve("/page.html", "<iframe src=/leaf.html></iframe>");
+    for (const DISPID dispid : {DISPID_BEFORENAVIGATE2, DISPID_DOWNLOADBEGIN, DISPID_NAVIGATECOMPLETE2,
+                                DISPID_DOWNLOADCOMPLETE, DISPID_DOCUMENTCOMPLETE, DISPID_ONQUIT})
+    {
+        if (!m_spBrowser)
+            SetUp();
+        GetRecorder().SetAction([&](DISPID told, const DISPPARAMS&) {
+            if (told == dispid)
+                m_spBrowser->Close();
+        });
+        Navigate(UrlOf(L"/page.html"));
+        if (dispid == DISPID_ONQUIT)
+            m_spBrowser->Close();
+        ASSERT_TRUE(PumpUntil([this] { return !GetPage().IsOpen(); }));
+        m_window.m_bLoading = false;
+        PumpUntilQuiet();
+        EXPECT_EQ(TakeEvents().back(), "OnQuit");
+        TearDown();
+    }
+    SetUp();
+}
+
+TEST_F(LoadEvents, StandCallsToThePageInsideThem)
+{
+    Serve("/leaf.html", "<p>Leaf");
+    Serve("/page.html", "<title>Page</title><iframe src=/leaf.html></iframe><iframe src=/leaf.html></iframe>");
+    int nAnswered = 0;
+    GetRecorder().SetAction([&](DISPID, const DISPPARAMS&) { nAnswered += Run(L"1 + 1") == 2 ? 1 : 0; });
+    for (int nLoad = 0; nLoad < 10; ++nLoad)
+    {
+        Load(L"/page.html");
+        const auto events = TakeEvents();
+        ASSERT_THAT(events, SizeIs(3 * 5));
+        EXPECT_EQ(events.back(), "DocumentComplete top /page.html");
+    }
+    EXPECT_GT(nAnswered, 100);
+}
+
 TEST_F(LoadEvents, CarryHeadersAndPostData)
 {
     Serve("/form", "<p>Thanks");

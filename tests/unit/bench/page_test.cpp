@@ -3,6 +3,8 @@
 #include <comutil.h>
 #include <exdispid.h>
 #include <gmock/gmock.h>
+#include <mshtml.h>
+#include <oleacc.h>
 
 using testing::ElementsAre;
 using testing::HasSubstr;
@@ -84,6 +86,30 @@ TEST_F(Page, LeavesNewWindowsToTheView)
     PumpUntilQuiet();
     EXPECT_THAT(m_window.m_windows, ElementsAre(UrlOf(L"/next.html")));
     EXPECT_THAT(TakeRequests(), testing::Not(testing::Contains(HasSubstr("/next.html"))));
+}
+
+TEST_F(Page, TellsATitleThatAScriptChanges)
+{
+    Serve("/page.html", "<title>Page</title>");
+    Load(L"/page.html");
+    EXPECT_EQ(m_window.m_strTitle, L"Page");
+    Run(L"document.title = 'Changed'");
+    EXPECT_TRUE(PumpUntil([this] { return m_window.m_strTitle == L"Changed"; }));
+}
+
+TEST_F(Page, AnswersTheMessageForItsDocument)
+{
+    Serve("/page.html", "<title>Page</title>");
+    Load(L"/page.html");
+    const LRESULT lResult = m_spBrowser->GetHtmlObject(0);
+    ASSERT_NE(lResult, 0);
+    Microsoft::WRL::ComPtr<IHTMLDocument2> spDocument;
+    ASSERT_EQ(ObjectFromLresult(lResult, IID_IHTMLDocument2, 0, &spDocument), S_OK);
+    _bstr_t title;
+    EXPECT_EQ(spDocument->get_title(title.GetAddress()), S_OK);
+    EXPECT_STREQ(title, L"Page");
+    m_spBrowser->Close();
+    EXPECT_EQ(m_spBrowser->GetHtmlObject(0), 0);
 }
 
 TEST_F(Page, AnswersBoxesOfScriptsAtOnce)

@@ -30,6 +30,25 @@ public:
         ++m_nAsked;
         return S_OK;
     }
+    STDMETHODIMP UpdateUI() override
+    {
+        ++m_nUpdates;
+        return S_OK;
+    }
+    STDMETHODIMP OnDocWindowActivate(BOOL bActive) override
+    {
+        m_bActive = bActive != FALSE;
+        return S_OK;
+    }
+    STDMETHODIMP ShowContextMenu(DWORD, POINT* pPoint, IUnknown*, IDispatch*) override
+    {
+        m_menuPoint = *pPoint;
+        return S_OK;
+    }
+    STDMETHODIMP TranslateAccelerator(LPMSG pMsg, const GUID*, DWORD) override
+    {
+        return pMsg->wParam == VK_F9 ? S_OK : S_FALSE;
+    }
     STDMETHODIMP QueryStatus(const GUID*, ULONG, OLECMD*, OLECMDTEXT*) override { return E_NOTIMPL; }
     STDMETHODIMP Exec(const GUID*, DWORD nCommand, DWORD, VARIANT* pvIn, VARIANT* pvOut) override
     {
@@ -57,6 +76,9 @@ public:
     }
 
     int m_nAsked = 0;
+    int m_nUpdates = 0;
+    bool m_bActive = false;
+    POINT m_menuPoint = {};
     bool m_bGoOn = true;
     HRESULT m_hrAnswer = S_OK;
     std::vector<_variant_t> m_properties;
@@ -168,4 +190,23 @@ TEST_F(ScriptErrors, FindTheSiteOfTheDocumentWithItsTwoInterfaces)
     EXPECT_EQ(spHandler->GetExternal(&spExternal), S_FALSE);
     EXPECT_EQ(spTarget->Exec(nullptr, OLECMDID_PRINT, 0, nullptr, nullptr), OLECMDERR_E_NOTSUPPORTED);
     EXPECT_EQ(spTarget->Exec(nullptr, OLECMDID_SHOWSCRIPTERROR, 0, nullptr, nullptr), E_INVALIDARG);
+}
+
+TEST_F(ScriptErrors, AreNotAllThatTheHandlerIsAsked)
+{
+    LoadFailingPage();
+    const auto spHandler = SetHandler();
+    m_spBrowser->OnActivate(true);
+    EXPECT_TRUE(spHandler->m_bActive);
+    m_spBrowser->AskForContextMenu({12, 34});
+    EXPECT_EQ(spHandler->m_menuPoint.x, 12);
+    MSG msg = {};
+    msg.wParam = VK_F9;
+    EXPECT_TRUE(m_spBrowser->TranslateKey(msg));
+    msg.wParam = VK_F8;
+    EXPECT_FALSE(m_spBrowser->TranslateKey(msg));
+    Run(L"location.hash = 'anchor'");
+    EXPECT_TRUE(PumpUntil([&] { return spHandler->m_nUpdates == 1; }));
+    Load(L"/page.html");
+    EXPECT_FALSE(m_spBrowser->TranslateKey(msg));
 }

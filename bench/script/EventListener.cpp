@@ -93,7 +93,7 @@ STDMETHODIMP CEventListener::Invoke(DISPID dispid, REFIID, LCID, WORD, DISPPARAM
         if (const std::wstring text = Describe(Follow(pParams->rgvarg[i])); !text.empty())
             line.append(1, L' ').append(text);
     if (m_journal.IsWritten())
-        line += L" | " + DescribeFrames(m_pBrowser, GetFrame(*pParams));
+        line += L" | " + DescribeFrames(m_pBrowser, GetFrame(*pParams), dispid == DISPID_BEFORENAVIGATE2);
     m_journal.Add(line);
     return S_OK;
 }

@@ -18,29 +18,47 @@ ComPtr<IEnumUnknown> EnumEmbeddedObjects(IWebBrowser2& browser)
     return spObjects;
 }
 
-void Describe(IUnknown* pBrowser, const std::wstring& path, IUnknown* pFrame, std::wstring& text)
+/// Writes the frames of one event.
+class CFrameStates
 {
-    const auto spBrowser = QueryFor<IWebBrowser2>(pBrowser);
-    READYSTATE eState = READYSTATE_COMPLETE;
-    if (!spBrowser)
-        return;
-    spBrowser->get_ReadyState(&eState);
-    text += (text.empty() ? L"" : L" ") + path + L"=" + std::to_wstring(eState);
-    if (pFrame != nullptr && IsSameObject(spBrowser.Get(), pFrame))
-        text += L"*";
+public:
+    CFrameStates(IUnknown* pFrame, bool bLeaving) : m_pFrame(pFrame), m_bLeaving(bLeaving) {}
 
-    const ComPtr<IEnumUnknown> spObjects = EnumEmbeddedObjects(*spBrowser.Get());
-    ComPtr<IUnknown> spObject;
-    int nNumber = 0;
-    while (spObjects && spObjects->Next(1, spObject.ReleaseAndGetAddressOf(), nullptr) == S_OK)
-        if (QueryFor<IWebBrowser2>(spObject.Get()))
-            Describe(spObject.Get(), path + std::to_wstring(++nNumber) + L".", pFrame, text);
-}
+    void Add(IUnknown* pBrowser, const std::wstring& path)
+    {
+        const auto spBrowser = QueryFor<IWebBrowser2>(pBrowser);
+        READYSTATE eState = READYSTATE_COMPLETE;
+        if (!spBrowser)
+            return;
+        spBrowser->get_ReadyState(&eState);
+        const bool bOfEvent = m_pFrame != nullptr && IsSameObject(spBrowser.Get(), m_pFrame);
+        m_text += (m_text.empty() ? L"" : L" ") + path + L"=" + std::to_wstring(eState) + (bOfEvent ? L"*" : L"");
+        if (eState > READYSTATE_LOADING && !(bOfEvent && m_bLeaving))
+            AddChildren(*spBrowser.Get(), path);
+    }
+
+    const std::wstring& GetText() const { return m_text; }
+
+private:
+    void AddChildren(IWebBrowser2& browser, const std::wstring& path)
+    {
+        const ComPtr<IEnumUnknown> spObjects = EnumEmbeddedObjects(browser);
+        ComPtr<IUnknown> spObject;
+        int nNumber = 0;
+        while (spObjects && spObjects->Next(1, spObject.ReleaseAndGetAddressOf(), nullptr) == S_OK)
+            if (QueryFor<IWebBrowser2>(spObject.Get()))
+                Add(spObject.Get(), path + std::to_wstring(++nNumber) + L".");
+    }
+
+    IUnknown* m_pFrame; ///< for comparison only
+    const bool m_bLeaving;
+    std::wstring m_text;
+};
 } // namespace
 
-std::wstring DescribeFrames(IUnknown* pBrowser, IUnknown* pFrame)
+std::wstring DescribeFrames(IUnknown* pBrowser, IUnknown* pFrame, bool bLeaving)
 {
-    std::wstring text;
-    Describe(pBrowser, L"1.", pFrame, text);
-    return text;
+    CFrameStates states(pFrame, bLeaving);
+    states.Add(pBrowser, L"1.");
+    return states.GetText();
 }

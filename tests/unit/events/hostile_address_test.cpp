@@ -5,6 +5,7 @@
 #include "tests/unit/events/window_fixture.h"
 
 #include <windows.h>
+#include <gmock/gmock.h>
 #include <shellapi.h>
 
 #include <random>
@@ -136,7 +137,7 @@ TEST_F(HostileAddresses, StoreNothingUnlessTheUserSaysOK)
         CFakeButtons::Get().TakeCalls();
         CFakeCalls::Get().ClearLog();
     }
-    EXPECT_TRUE(m_broker->m_writes.empty());
+    EXPECT_THAT(m_broker->m_writes, testing::IsEmpty());
     EXPECT_EQ(ButtonCount, CFakeButtons::Get().m_nCreated) << "no layout was loaded after the first";
     EXPECT_GT(answerer.GetShown().size(), AddressCount / 50u);
 }

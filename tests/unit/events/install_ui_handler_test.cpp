@@ -2,6 +2,7 @@
 
 #include "resources/Trelvix.h"
 #include "tests/fakes/FakeClientSite.h"
+#include "tests/fakes/RefusedClass.h"
 #include "tests/unit/events/window_fixture.h"
 
 #include <windows.h>
@@ -11,23 +12,6 @@ using Microsoft::WRL::ComPtr;
 
 namespace
 {
-/// A class whose objects can't be created, whatever is registered on the machine.
-class CRefusedClass : public CFakeObject<CRefusedClass, IClassFactory>
-{
-    BEGIN_COM_MAP(CRefusedClass)
-        COM_INTERFACE_ENTRY(IClassFactory)
-    END_COM_MAP()
-
-public:
-    CRefusedClass() : CFakeObject("RefusedClass") {}
-
-    STDMETHODIMP CreateInstance(IUnknown*, REFIID, void** ppv) override
-    {
-        return Call("CreateInstance", ppv, [] { return E_OUTOFMEMORY; });
-    }
-    STDMETHODIMP LockServer(BOOL) override { return S_OK; }
-};
-
 class InstallUIHandler : public WindowTest
 {
 protected:
@@ -115,11 +99,8 @@ TEST_F(InstallUIHandler, NeedsABrowser)
 TEST_F(InstallUIHandler, NeedsTheClass)
 {
     m_module.RevokeClasses();
-    DWORD dwRegistration = 0;
-    EXPECT_EQ(S_OK, CoRegisterClassObject(CLSID_TrelvixMSHTMLUIHandler, MakeFake<CRefusedClass>().Get(),
-                                          CLSCTX_INPROC_SERVER, REGCLS_MULTIPLEUSE, &dwRegistration));
+    const CRefusedClass refused(CLSID_TrelvixMSHTMLUIHandler, CLSCTX_INPROC_SERVER);
     EXPECT_EQ(0, FailAndCountHandlers());
-    CoRevokeClassObject(dwRegistration);
 }
 
 TEST_F(InstallUIHandler, KeepsTheNewHandlerWhenTheBrowserGivesNoDocument)

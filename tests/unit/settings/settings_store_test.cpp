@@ -2,6 +2,7 @@
 #include "settings/SettingKey.h"
 #include "settings/SettingsStore.h"
 #include "tests/fakes/FakeSettingsBroker.h"
+#include "tests/fakes/RefusedClass.h"
 
 #include <windows.h>
 #include <gmock/gmock.h>
@@ -29,6 +30,7 @@ protected:
     ~SettingsStore() override
     {
         m_broker.reset();
+        m_noBroker.reset();
         OleUninitialize();
     }
 
@@ -37,8 +39,16 @@ protected:
     {
         (*m_broker)->m_values[KeyOf(strName)] = strValue;
     }
-    void StartBroker() { m_broker.emplace(); }
-    void StopBroker() { m_broker.reset(); }
+    void StartBroker()
+    {
+        m_noBroker.reset();
+        m_broker.emplace();
+    }
+    void StopBroker()
+    {
+        m_broker.reset();
+        m_noBroker.emplace(CLSID_SettingsBroker, CLSCTX_LOCAL_SERVER);
+    }
     static size_t CountCalls(const char* pszMethod)
     {
         return CFakeCalls::Get().CountOf(std::string("SettingsBroker.") + pszMethod);
@@ -48,6 +58,7 @@ protected:
     const std::wstring m_strRoot = L"Tests\\" + std::wstring(m_strTest.begin(), m_strTest.end());
     CSettingsStore m_store {m_strRoot};
     std::optional<CFakeSettingsBrokerServer> m_broker;
+    std::optional<CRefusedClass> m_noBroker; ///< in place of a broker that the machine may have
 };
 
 struct FailingCall

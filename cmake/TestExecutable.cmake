@@ -14,7 +14,8 @@ trelvix_add_tests(<name> SOURCES <file>... [LIBRARIES <target>...] [TIMEOUT <sec
 Makes a test program of GoogleTest sources, which is one test for ctest: a process of Wine for each of its tests would take
 longer than the tests.
 - TIMEOUT: how long the program may take, or one test of it where they run apart; 300 seconds if not given.
-- GUI: the tests show windows or move the pointer, so no other such program runs meanwhile.
+- GUI: the tests show windows, move the pointer, or stand in for a registered class, which other processes of the session
+  then find as well, so no other such program runs meanwhile.
 - OWN_PREFIX: the tests change what other tests rely on (the registration, a killed server); the program has a Wine prefix
   that only it uses, and in it a Wine session of its own, and nothing is registered there.
 - APART: each test is one for ctest and has a process of its own, and with OWN_PREFIX a session too.

@@ -12,9 +12,10 @@ constexpr wchar_t EndOfPageScript[] = LR"((forward => {
     return forward ? place === all.length - 1 : place <= 0;
 }))";
 
-bool IsKeyMessage(const MSG& msg)
+/// A key that goes down is an accelerator; the same key coming up must not be one again.
+bool IsKeyDown(const MSG& msg)
 {
-    return msg.message >= WM_KEYFIRST && msg.message <= WM_KEYLAST;
+    return msg.message == WM_KEYDOWN || msg.message == WM_SYSKEYDOWN;
 }
 
 bool IsHeld(int vk)
@@ -25,7 +26,7 @@ bool IsHeld(int vk)
 
 bool CTabWindow::TranslateKey(MSG* pMsg)
 {
-    if (!IsKeyMessage(*pMsg))
+    if (!IsKeyDown(*pMsg))
         return false;
     return m_rebar.TranslateKey(pMsg) || m_leftBar.TranslateKey(pMsg) || m_bottomBar.TranslateKey(pMsg) ||
            MoveFocus(*pMsg) || m_frame.TranslateFrameKey(pMsg);

@@ -65,6 +65,7 @@ class Search(BenchTest):
             expect-in-page {words(yellow)}
             move-pointer 640 700
             picture after
+            expect-in-page {words(every_frame)}
             """)
         self.assertEqual(count_yellow(run.folder / "before.png"), 0)
         self.assertGreater(count_yellow(run.folder / "after.png"), 1000)

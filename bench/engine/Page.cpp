@@ -76,7 +76,8 @@ std::optional<Json> CPage::Call(const char* pszMethod, Json params)
     if (!m_bOpen)
         return std::nullopt;
     auto result = m_connection->Call(pszMethod, std::move(params));
-    if (m_connection->HasTimedOut())
+    // While another document is awaited, it may be the server that is slow.
+    if (m_connection->HasTimedOut() && !m_bNextAwaited)
         End(L"The page doesn't answer.");
     return result;
 }

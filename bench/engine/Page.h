@@ -87,6 +87,9 @@ public:
     /// The title of the top document.
     const std::wstring& GetTitle() const { return m_strTitle; }
 
+    /// While the next document of the top frame is fetched, the engine answers no questions about the one on show; they
+    /// are not asked then and count as failed.
+
     /// The value of a script expression in the frame's document; null when it failed or the frame has gone.
     Json Evaluate(const std::string& frameId, const std::wstring& expression);
 
@@ -141,6 +144,7 @@ private:
     void OnNavigateReply(const CNavigation& navigation, const std::optional<Json>& result);
     CNavigation MakeNavigation(const Json& pausedRequest);
     void LetRequestGo(const Json& pausedRequest, const CNavigation& navigation);
+    void CancelRequest(const Json& pausedRequest);
     void LetScriptsRun();
     void RunScript(const std::string& frameId, const std::string& script);
     void GoInHistory(int nSteps);
@@ -170,6 +174,7 @@ private:
     bool m_bLoading = false;
     bool m_bFirstAddress = true;
     bool m_bScriptsStopped = false;
+    bool m_bNextAwaited = false; ///< a request for the next document of the top frame stands or is on its way
 
     SIZE m_size = {};
     bool m_bPictures = false;

@@ -70,6 +70,8 @@ void CPage::OnFrameNavigated(const Json& params)
 {
     const Json& frame = GetObjectMember(params, "frame");
     const std::string id = GetNarrowText(frame, "id");
+    if (m_frames.IsTop(id))
+        m_bNextAwaited = false;
     m_tracker.OnCommitted(id, GetText(frame, "url") + GetText(frame, "urlFragment"), GetText(frame, "name"),
                           GetText(frame, "unreachableUrl"));
     if (m_frames.IsTop(id))
@@ -88,6 +90,8 @@ void CPage::OnFrameStartedNavigating(const Json& params)
 void CPage::OnFrameStoppedLoading(const Json& params)
 {
     const std::string frameId = GetNarrowText(params, "frameId");
+    if (m_frames.IsTop(frameId))
+        m_bNextAwaited = false;
     m_tracker.OnStoppedLoading(frameId);
     if (m_frames.IsTop(frameId))
         UpdateTitle();
@@ -108,11 +112,19 @@ void CPage::OnRequestPaused(const Json& params)
     if (params.contains("redirectedRequestId"))
         return LetRequestGo(params, {});
     const CNavigation navigation = MakeNavigation(params);
+    if (m_frames.IsTop(navigation.strFrameId))
+        m_bNextAwaited = true;
     if (!m_tracker.OnRequest(navigation))
-        return Post("Fetch.failRequest",
-                    {{"requestId", GetNarrowText(params, "requestId")}, {"errorReason", "Aborted"}});
+        return CancelRequest(params);
     LetRequestGo(params, navigation);
     m_tracker.OnRequestAllowed(navigation.strFrameId);
+}
+
+void CPage::CancelRequest(const Json& pausedRequest)
+{
+    Post("Fetch.failRequest", {{"requestId", GetNarrowText(pausedRequest, "requestId")}, {"errorReason", "Aborted"}});
+    if (m_frames.IsTop(GetNarrowText(pausedRequest, "frameId")))
+        m_bNextAwaited = false;
 }
 
 void CPage::OnDownloadWillBegin(const Json& params)

@@ -7,7 +7,7 @@
 Json CPage::Evaluate(const std::string& frameId, const std::wstring& expression)
 {
     const auto context = m_contexts.find(frameId);
-    if (context == m_contexts.end())
+    if (context == m_contexts.end() || m_bNextAwaited)
         return nullptr;
     const auto result =
         Call("Runtime.evaluate",
@@ -33,7 +33,7 @@ Json CPage::MakeCall(const std::string& frameId, const char* pszFunction, Json a
 
 std::optional<Json> CPage::CallScript(Json call)
 {
-    if (call.is_null())
+    if (call.is_null() || m_bNextAwaited)
         return std::nullopt;
     const auto result = Call("Runtime.callFunctionOn", std::move(call));
     if (!result || result->contains("exceptionDetails"))

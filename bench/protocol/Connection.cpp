@@ -92,6 +92,7 @@ std::optional<Json> CConnection::Call(const char* pszMethod, Json params)
     if (m_bAbandoned)
         return std::nullopt;
     const int nId = Send(pszMethod, std::move(params));
+    m_bTimedOut = false;
     m_waiting.insert(nId);
     const bool bAnswered = WaitForReply(nId);
     m_waiting.erase(nId);

@@ -54,7 +54,7 @@ public:
     /// Calls a method without waiting. No reply comes when the engine has gone meanwhile.
     void Post(const char* pszMethod, Json params = Json::object(), Reply reply = nullptr);
 
-    /// Whether a call has waited for its answer in vain.
+    /// Whether the last call waited for its answer in vain.
     bool HasTimedOut() const { return m_bTimedOut; }
 
     /// Ends all waiting calls: the target will never answer them.

@@ -62,7 +62,7 @@ class BrowserTest : public testing::Test
 {
 public:
     /// How long a test waits for anything.
-    static constexpr DWORD TimeoutMs = 15000;
+    static constexpr DWORD TimeoutMs = 60000;
 
 protected:
     static void SetUpTestSuite();

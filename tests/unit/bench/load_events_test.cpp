@@ -138,10 +138,10 @@ TEST_F(LoadEvents, OfACancelledNavigationEndThereAndNothingIsFetched)
     LoadPageWithFrame();
     CancelNavigationsTo(L"/other.html");
     EXPECT_EQ(Navigate(UrlOf(L"/other.html")), S_OK);
-    ASSERT_TRUE(PumpUntilQuiet());
+    ASSERT_TRUE(PumpUntil([this] { return GetRecorder().m_lines.size() == 1; }) && PumpUntilQuiet());
     EXPECT_THAT(TakeEvents(), ElementsAre("BeforeNavigate2 top /other.html"));
     Run(L"frames[0].location = '/other.html'");
-    ASSERT_TRUE(PumpUntilQuiet());
+    ASSERT_TRUE(PumpUntil([this] { return GetRecorder().m_lines.size() == 1; }) && PumpUntilQuiet());
     EXPECT_THAT(TakeEvents(), ElementsAre("BeforeNavigate2 left /other.html"));
     EXPECT_THAT(TakeRequests(), Not(Contains(HasSubstr("/other.html"))));
     EXPECT_EQ(Run(L"document.title"), "Page");
@@ -269,16 +269,23 @@ TEST_F(LoadEvents, StandCallsToThePageInsideThem)
 {
     Serve("/leaf.html", "<p>Leaf");
     Serve("/page.html", "<title>Page</title><iframe src=/leaf.html></iframe><iframe src=/leaf.html></iframe>");
+    Load(L"/leaf.html");
+    TakeEvents();
     int nAnswered = 0;
     GetRecorder().SetAction([&](DISPID, const DISPPARAMS&) { nAnswered += Run(L"1 + 1") == 2 ? 1 : 0; });
-    for (int nLoad = 0; nLoad < 10; ++nLoad)
+    for (int nLoad = 0; nLoad < 3; ++nLoad)
     {
         Load(L"/page.html");
         const auto events = TakeEvents();
         ASSERT_THAT(events, SizeIs(3 * 5));
         EXPECT_EQ(events.back(), "DocumentComplete top /page.html");
     }
-    EXPECT_GT(nAnswered, 100);
+    // The engine answers for none of them while the next page is fetched: at the first two.
+    EXPECT_EQ(nAnswered, 3 * 13);
+    TakeEvents();
+    Navigate(ForeignUrlOf(L"/page.html"));
+    ASSERT_TRUE(PumpUntil([this] { return m_window.m_bLoading; }) && PumpUntilQuiet());
+    EXPECT_THAT(TakeEvents(), SizeIs(3 * 5));
 }
 
 TEST_F(LoadEvents, CarryHeadersAndPostData)

@@ -68,6 +68,7 @@ BEGIN_MESSAGE_MAP(CPageWindow, CWnd)
     ON_MESSAGE(WM_KEYDOWN, OnKeyDown)
     ON_MESSAGE(WM_KEYUP, OnKeyUp)
     ON_MESSAGE(WM_CHAR, OnChar)
+    ON_MESSAGE(WM_SYSCHAR, OnSysChar)
     ON_MESSAGE(WM_SETFOCUS, OnSetFocus)
     ON_MESSAGE(WM_KILLFOCUS, OnKillFocus)
     ON_MESSAGE(WM_GETDLGCODE, OnGetDialogCode)
@@ -198,6 +199,13 @@ LRESULT CPageWindow::OnKeyUp(WPARAM wParam, LPARAM lParam)
 LRESULT CPageWindow::OnChar(WPARAM wParam, LPARAM)
 {
     m_pBrowser->GetPage().Char(static_cast<wchar_t>(wParam), GetInputModifiers());
+    return 0;
+}
+
+LRESULT CPageWindow::OnSysChar(WPARAM wParam, LPARAM)
+{
+    // The menu belongs to the frame, which must open it on its own thread.
+    PostMessageW(GetAncestor(m_hWnd, GA_ROOT), WM_SYSCOMMAND, SC_KEYMENU, wParam);
     return 0;
 }
 

@@ -34,6 +34,7 @@ private:
     LRESULT OnKeyDown(WPARAM wParam, LPARAM lParam);
     LRESULT OnKeyUp(WPARAM wParam, LPARAM lParam);
     LRESULT OnChar(WPARAM wParam, LPARAM lParam);
+    LRESULT OnSysChar(WPARAM wParam, LPARAM lParam);
     LRESULT OnSetFocus(WPARAM wParam, LPARAM lParam);
     LRESULT OnKillFocus(WPARAM wParam, LPARAM lParam);
     LRESULT OnGetDialogCode(WPARAM wParam, LPARAM lParam);

@@ -86,6 +86,8 @@ void BrowserTest::SetUp()
 
 void BrowserTest::TearDown()
 {
+    // What it refers to has gone with the test.
+    m_spRecorder->SetAction(nullptr);
     m_spBrowser->Close();
     m_spRecorder->m_nameFrame = nullptr;
     m_spBrowser.Reset();

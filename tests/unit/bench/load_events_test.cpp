@@ -329,7 +329,7 @@ TEST_F(LoadEvents, GoBackAndForward)
     EXPECT_TRUE(GetPage().CanGoBack());
     EXPECT_EQ(m_spBrowser->GoBack(), S_OK);
     ASSERT_TRUE(PumpUntil([this] { return m_window.m_strTitle == L"One"; }) && PumpUntilQuiet());
-    EXPECT_TRUE(GetPage().CanGoForward());
+    ASSERT_TRUE(PumpUntil([this] { return GetPage().CanGoForward(); }));
     EXPECT_EQ(m_spBrowser->GoForward(), S_OK);
     EXPECT_TRUE(PumpUntil([this] { return m_window.m_strTitle == L"Two"; }));
 }

@@ -18,6 +18,8 @@ set(cxx_options
     -Wall
     -Wextra
     -Werror
+    # With so many headers the compiler stops tracking columns, and says so with a note for each file.
+    -Wno-misleading-indentation
     -ffunction-sections
     -fdata-sections
     "-ffile-prefix-map=${CMAKE_SOURCE_DIR}=."

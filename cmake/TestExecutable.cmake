@@ -1,5 +1,5 @@
-# Tests are compiled far more often than they are run, and their headers are too large to track columns in.
-set(test_options "$<$<COMPILE_LANGUAGE:CXX>:-O0;-Wno-misleading-indentation>")
+# Tests are compiled far more often than they are run.
+set(test_options "$<$<COMPILE_LANGUAGE:CXX>:-O0>")
 
 add_library(precompiled_for_tests OBJECT EXCLUDE_FROM_ALL cmake/Precompiled.cpp)
 target_precompile_headers(precompiled_for_tests PRIVATE

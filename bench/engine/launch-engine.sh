@@ -45,7 +45,7 @@ options=(
 )
 [ "$(id -u)" -ne 0 ] || options+=(--no-sandbox)
 
-"$engine" "${options[@]}" about:blank </dev/null >/dev/null 2>"$profile/log" 3>&- &
+TMPDIR=$profile "$engine" "${options[@]}" about:blank </dev/null >/dev/null 2>"$profile/log" 3>&- &
 engine_pid=$!
 
 address=$profile/DevToolsActivePort

@@ -14,7 +14,8 @@ BROWSER = pathlib.Path(os.environ["BENCH_BROWSER"])
 
 RUN_SECONDS = 300
 GONE_SECONDS = 60
-ENGINE_PROFILE = "bench-engine."
+ENGINE_PROFILE = "/bench-engine."
+PROGRAMS = (BROWSER.name, "launch-engine.sh")
 
 
 def read(path):
@@ -25,14 +26,20 @@ def read(path):
 
 
 def processes():
-    """The numbers and command lines of all processes below this one's session that belong to a browser or its engine."""
+    """The numbers and command lines of this Wine prefix's processes that are a browser or belong to its engine."""
     found = {}
     for entry in pathlib.Path("/proc").iterdir():
         if entry.name.isdigit():
-            command = read(entry / "cmdline").replace(b"\0", b" ").decode(errors="replace")
-            if ENGINE_PROFILE in command or "iexplore.exe" in command or "launch-engine.sh" in command:
-                found[int(entry.name)] = command
-    return {pid: command for pid, command in found.items() if is_ours(pid)}
+            words = read(entry / "cmdline").decode(errors="replace").rstrip("\0").split("\0")
+            if belongs_to_a_browser(words) and is_ours(entry.name):
+                found[int(entry.name)] = " ".join(words)
+    return found
+
+
+def belongs_to_a_browser(words):
+    """Whether the words of a command line start a browser, or name an engine's profile or the script that starts one."""
+    starts = any(word.endswith(PROGRAMS) for word in words[:2])
+    return starts or any(ENGINE_PROFILE in word for word in words)
 
 
 def is_ours(pid):

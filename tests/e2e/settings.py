@@ -48,7 +48,7 @@ class Settings(BenchTest):
 
     def test_layout(self):
         """A root menu, the highlight box, a separator and the zoom box."""
-        store("Toolbar", "Layout", "000700010001000100080001")
+        store("Toolbar", "Layout", "000100070001000100010008")
         self.run_script("wait-for-load\nexpect-toolbar 4")
 
     def test_language(self):

@@ -8,6 +8,7 @@
 
 #include <windows.h>
 
+#include <functional>
 #include <map>
 #include <memory>
 #include <optional>
@@ -113,6 +114,7 @@ private:
     static constexpr char WorldName[] = "bench"; ///< of page.js in each document, which calls the two by their names
     static constexpr char NavigateBinding[] = "benchNavigate";
     static constexpr char TitleBinding[] = "benchTitle";
+    static constexpr int HistoryTries = 1000; ///< each is one round trip
 
     using Handler = void (CPage::*)(const Json& params);
     static const std::map<std::string, Handler>& GetHandlers();
@@ -149,6 +151,7 @@ private:
     void RunScript(const std::string& frameId, const std::string& script);
     void GoInHistory(int nSteps);
     void OnTopShown(const std::wstring& url);
+    void AskForHistory(const std::function<void(const Json&)>& take, int nTries = HistoryTries);
     void UpdateTitle();
     void SetTitle(const std::wstring& title);
     void OnScriptLink(const std::string& frameId, const std::wstring& url);

@@ -106,25 +106,39 @@ void CPage::Stop()
 
 void CPage::GoInHistory(int nSteps)
 {
-    Post("Page.getNavigationHistory", Json::object(), [this, nSteps](const std::optional<Json>& history) {
-        if (!history)
-            return;
-        const int nIndex = GetNumber(*history, "currentIndex", 0) + nSteps;
-        const Json& entries = (*history)["entries"];
+    AskForHistory([this, nSteps](const Json& history) {
+        const int nIndex = GetNumber(history, "currentIndex", 0) + nSteps;
+        const Json& entries = history["entries"];
         if (nIndex >= 0 && nIndex < static_cast<int>(entries.size()))
             Post("Page.navigateToHistoryEntry", {{"entryId", entries[nIndex]["id"]}});
     });
 }
 
+void CPage::AskForHistory(const std::function<void(const Json&)>& take, int nTries)
+{
+    Post("Page.getNavigationHistory", Json::object(), [this, take, nTries](const std::optional<Json>& history) {
+        if (history)
+            take(*history);
+        // While a page of another process takes the place of the last one, the engine refuses to answer.
+        else if (nTries > 1)
+            AskForHistory(take, nTries - 1);
+    });
+}
+
 void CPage::OnTopShown(const std::wstring& url)
 {
-    // The empty page that every window begins with is no place to go back to.
-    if (std::exchange(m_bFirstAddress, false))
-        Post("Page.resetNavigationHistory");
-    Post("Page.getNavigationHistory", Json::object(), [this, url](const std::optional<Json>& history) {
-        m_nHistoryIndex = history ? GetNumber(*history, "currentIndex", 0) : 0;
-        m_nHistoryLength = history ? static_cast<int>((*history)["entries"].size()) : 0;
+    m_view.OnAddressChanged(url);
+    AskForHistory([this](const Json& history) {
+        m_nHistoryIndex = GetNumber(history, "currentIndex", 0);
+        m_nHistoryLength = static_cast<int>(history["entries"].size());
+        // The empty page that every window begins with is no place to go back to.
+        if (std::exchange(m_bFirstAddress, false))
+        {
+            Post("Page.resetNavigationHistory");
+            m_nHistoryIndex = 0;
+            m_nHistoryLength = 1;
+        }
         m_events.OnHistoryChanged();
-        m_view.OnAddressChanged(url);
+        m_view.OnHistoryChanged();
     });
 }

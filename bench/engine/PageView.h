@@ -12,6 +12,8 @@ public:
 
     /// The page on show has this address now.
     virtual void OnAddressChanged(const std::wstring& url) = 0;
+    /// What lies before and behind the page on show may be another than before.
+    virtual void OnHistoryChanged() = 0;
     virtual void OnTitleChanged(const std::wstring& title) = 0;
     virtual void OnLoadingChanged(bool bLoading) = 0;
     /// One line for the status bar, empty to clear it.

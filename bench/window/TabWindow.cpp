@@ -157,6 +157,11 @@ void CTabWindow::OnAddressChanged(const std::wstring& url)
     TellFrame();
 }
 
+void CTabWindow::OnHistoryChanged()
+{
+    TellFrame();
+}
+
 void CTabWindow::OnTitleChanged(const std::wstring& title)
 {
     m_state.strTitle = title;

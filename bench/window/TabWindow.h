@@ -75,6 +75,7 @@ private:
 
     void OnPicture(const std::string& image) override { m_view.SetPicture(image); }
     void OnAddressChanged(const std::wstring& url) override;
+    void OnHistoryChanged() override;
     void OnTitleChanged(const std::wstring& title) override;
     void OnLoadingChanged(bool bLoading) override;
     void OnStatusText(const std::wstring& text) override;

@@ -33,6 +33,7 @@ public:
 
     void OnPicture(const std::string& image) override { m_picture = image; }
     void OnAddressChanged(const std::wstring& url) override { m_strAddress = url; }
+    void OnHistoryChanged() override {}
     void OnTitleChanged(const std::wstring& title) override { m_strTitle = title; }
     void OnLoadingChanged(bool bLoading) override { m_bLoading = bLoading; }
     void OnStatusText(const std::wstring& text) override { m_strStatus = text; }

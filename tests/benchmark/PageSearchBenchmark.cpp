@@ -3,7 +3,7 @@
 
 #include "framework/ComQuery.h"
 #include "tests/benchmark/Benchmark.h"
-#include "tests/unit/bench/browser_fixture.h"
+#include "tests/unit/bench/BrowserFixture.h"
 #include "tools/PageHighlight.h"
 
 #include <windows.h>
@@ -39,7 +39,7 @@ std::string ReadFile(const std::filesystem::path& path)
 }
 
 /// 1 MB of text with the library, which is made anew for each sample.
-class CMeasuredPage : public BrowserTest
+class CMeasuredPage : public CBrowserTest
 {
 public:
     CMeasuredPage()

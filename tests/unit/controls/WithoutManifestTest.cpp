@@ -1,0 +1,22 @@
+// What becomes of the manifest's users in a module that has none.
+
+#include "controls/IsolationAware.h"
+#include "controls/XPStyleContext.h"
+#include "tests/unit/controls/ActivationContext.h"
+
+#include <gtest/gtest.h>
+
+TEST(XPStyleContextWithoutAManifest, StaysInactive)
+{
+    const CXPStyleContext context;
+    EXPECT_FALSE(context.IsActive());
+    EXPECT_FALSE(AreCommonControlsRedirected());
+}
+
+TEST(IsolationAwareWithoutAManifest, GoesOnWithoutOne)
+{
+    const HMODULE hModule = IsolatedLoadLibrary(L"version.dll");
+    EXPECT_NE(nullptr, hModule);
+    FreeLibrary(hModule);
+    EXPECT_EQ(nullptr, GetContextInForce());
+}

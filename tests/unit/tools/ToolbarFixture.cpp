@@ -1,0 +1,82 @@
+#include "tests/unit/tools/ToolbarFixture.h"
+
+#include "band/TrelvixWindow.h"
+#include "tools/ButtonSearchWeb.h"
+
+void CToolbarTest::SetUp()
+{
+    m_frame.Show();
+    ShowPage(L"");
+    Connect();
+    ASSERT_EQ(S_OK, AskBandFor<IDockingWindow>()->ShowDW(TRUE));
+    SetFocus(m_frame);
+    CFakeCalls::Get().ClearLog();
+}
+
+void CToolbarTest::TearDown()
+{
+    m_spBrowser->m_spDocument.Reset();
+    CBandTest::TearDown();
+}
+
+CFakeHtmlDocument& CToolbarTest::ShowPage(const std::wstring& strSource)
+{
+    m_spPage = MakeFake<CFakeHtmlDocument>(strSource);
+    m_spBrowser->m_spDocument = static_cast<IHTMLDocument2*>(m_spPage.Get());
+    return *m_spPage.Get();
+}
+
+CButtonSearchWeb& CToolbarTest::GetItem(int nIndex)
+{
+    return static_cast<CButtonSearchWeb&>(*GetToolbar().GetButton(nIndex));
+}
+
+HWND CToolbarTest::GetBox(int nIndex)
+{
+    return GetDlgItem(GetBandWindow(), nIndex);
+}
+
+std::wstring CToolbarTest::GetBoxText(int nIndex)
+{
+    return GetTextOf(GetBox(nIndex));
+}
+
+std::vector<std::wstring> CToolbarTest::GetEntries(int nIndex)
+{
+    std::vector<std::wstring> entries(SendMessageW(GetBox(nIndex), CB_GETCOUNT, 0, 0));
+    for (size_t n = 0; n < entries.size(); ++n)
+    {
+        entries[n].resize(SendMessageW(GetBox(nIndex), CB_GETLBTEXTLEN, n, 0));
+        SendMessageW(GetBox(nIndex), CB_GETLBTEXT, n, reinterpret_cast<LPARAM>(entries[n].data()));
+    }
+    return entries;
+}
+
+void CToolbarTest::Type(int nIndex, const std::wstring& strText)
+{
+    GetItem(nIndex).TakeFocus();
+    SetWindowTextW(GetBox(nIndex), strText.c_str());
+}
+
+HRESULT CToolbarTest::PressKey(int nIndex, UINT nKey)
+{
+    MSG message = {};
+    message.hwnd = GetWindow(GetBox(nIndex), GW_CHILD);
+    message.message = WM_KEYDOWN;
+    message.wParam = nKey;
+    message.lParam = 1;
+    return AskBandFor<IInputObject>()->TranslateAcceleratorIO(&message);
+}
+
+void CToolbarTest::Enter(int nIndex, const std::wstring& strText)
+{
+    Type(nIndex, strText);
+    PressKey(nIndex, VK_RETURN);
+}
+
+std::wstring GetTextOf(HWND hWnd)
+{
+    std::wstring strText(GetWindowTextLengthW(hWnd), L'\0');
+    GetWindowTextW(hWnd, strText.data(), static_cast<int>(strText.size() + 1));
+    return strText;
+}

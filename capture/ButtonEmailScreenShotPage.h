@@ -2,7 +2,7 @@
 
 #include "band/TrelvixButton.h"
 
-/// Sends a picture of the page by mail.
+/// The item that is to send a picture of the page by mail; it only has its place so far.
 class CButtonEmailScreenShotPage : public CTrelvixButton
 {
     DECLARE_DYNCREATE(CButtonEmailScreenShotPage)

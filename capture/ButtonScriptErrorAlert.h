@@ -2,7 +2,7 @@
 
 #include "band/TrelvixButton.h"
 
-/// Tells of script errors in the page.
+/// The item that is to tell of script errors in the page; it only has its place so far.
 class CButtonScriptErrorAlert : public CTrelvixButton
 {
     DECLARE_DYNCREATE(CButtonScriptErrorAlert)

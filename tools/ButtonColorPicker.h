@@ -2,7 +2,7 @@
 
 #include "band/TrelvixButton.h"
 
-/// Reads colours from the screen.
+/// The item that is to read colours from the screen; it only has its place so far.
 class CButtonColorPicker : public CTrelvixButton
 {
     DECLARE_DYNCREATE(CButtonColorPicker)

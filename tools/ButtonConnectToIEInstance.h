@@ -2,7 +2,7 @@
 
 #include "band/TrelvixButton.h"
 
-/// Opens the spy on all browser instances.
+/// The item that is to open the spy on all browser instances; it only has its place so far.
 class CButtonConnectToIEInstance : public CTrelvixButton
 {
     DECLARE_DYNCREATE(CButtonConnectToIEInstance)

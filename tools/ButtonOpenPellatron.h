@@ -2,7 +2,7 @@
 
 #include "band/TrelvixButton.h"
 
-/// Opens the page's address in the sibling tester.
+/// The item that is to open the page's address in the sibling tester; it only has its place so far.
 class CButtonOpenPellatron : public CTrelvixButton
 {
     DECLARE_DYNCREATE(CButtonOpenPellatron)

@@ -2,7 +2,7 @@
 
 #include "band/TrelvixButton.h"
 
-/// Shows the rendering mode of the document.
+/// The item that is to show the rendering mode of the document; it only has its place so far.
 class CButtonRenderingMode : public CTrelvixButton
 {
     DECLARE_DYNCREATE(CButtonRenderingMode)

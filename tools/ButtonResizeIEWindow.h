@@ -2,7 +2,7 @@
 
 #include "band/TrelvixButton.h"
 
-/// Sets the browser window to a chosen size.
+/// The item that is to set the browser window to a chosen size; it only has its place so far.
 class CButtonResizeIEWindow : public CTrelvixButton
 {
     DECLARE_DYNCREATE(CButtonResizeIEWindow)

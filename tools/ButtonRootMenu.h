@@ -2,7 +2,7 @@
 
 #include "band/TrelvixButton.h"
 
-/// The first item: the menu that leads to the options, the version check and the About box.
+/// The first item, to lead to the options, the version check and the About box; it only has its place so far.
 class CButtonRootMenu : public CTrelvixButton
 {
     DECLARE_DYNCREATE(CButtonRootMenu)

@@ -2,7 +2,7 @@
 
 #include "band/TrelvixButton.h"
 
-/// Shows and hides the sibling side bar, and chooses where it stands.
+/// The item that is to show and hide the sibling side bar; it only has its place so far.
 class CButtonShowInfoBar : public CTrelvixButton
 {
     DECLARE_DYNCREATE(CButtonShowInfoBar)

@@ -2,7 +2,7 @@
 
 #include "band/TrelvixButton.h"
 
-/// Shows the source of the page.
+/// The item that is to show the source of the page; it only has its place so far.
 class CButtonViewSource : public CTrelvixButton
 {
     DECLARE_DYNCREATE(CButtonViewSource)

@@ -6,6 +6,8 @@
 
 #include <commctrl.h>
 
+#include <iterator>
+
 namespace
 {
 constexpr int IconPartX = 8;
@@ -34,14 +36,13 @@ void CScriptRunner::PressKey(const Arguments& arguments)
         throw CStepError {L"there is no key " + arguments[0]};
 }
 
-RECT CScriptRunner::GetButtonRect(int nIndex, bool bScreen)
+RECT CScriptRunner::GetButtonRect(int nIndex)
 {
     RECT rect = {};
     OnTab([&](CTabWindow& window) {
         const HWND hToolbar = FindToolbar(window);
         SendMessageW(hToolbar, TB_GETITEMRECT, nIndex, reinterpret_cast<LPARAM>(&rect));
-        if (bScreen)
-            MapWindowPoints(hToolbar, nullptr, reinterpret_cast<POINT*>(&rect), 2);
+        MapWindowPoints(hToolbar, nullptr, reinterpret_cast<POINT*>(&rect), 2);
     });
     if (IsRectEmpty(&rect))
         throw CStepError {L"the toolbar has no button " + std::to_wstring(nIndex)};
@@ -51,13 +52,13 @@ RECT CScriptRunner::GetButtonRect(int nIndex, bool bScreen)
 void CScriptRunner::PressButton(const Arguments& arguments)
 {
     Mark();
-    const RECT rect = GetButtonRect(std::stoi(arguments[0]), true);
+    const RECT rect = GetButtonRect(std::stoi(arguments[0]));
     ClickScreen({rect.left + IconPartX, (rect.top + rect.bottom) / 2});
 }
 
 void CScriptRunner::DropDown(const Arguments& arguments)
 {
-    const RECT rect = GetButtonRect(std::stoi(arguments[0]), true);
+    const RECT rect = GetButtonRect(std::stoi(arguments[0]));
     ClickScreen({rect.right - ArrowPartX, (rect.top + rect.bottom) / 2});
 }
 
@@ -75,7 +76,7 @@ void CScriptRunner::ExpectMenu(const Arguments&)
 
 void CScriptRunner::ExpectBox(const Arguments& arguments)
 {
-    const RECT rect = GetButtonRect(std::stoi(arguments[0]), true);
+    const RECT rect = GetButtonRect(std::stoi(arguments[0]));
     const POINT middle = {(rect.left + rect.right) / 2, (rect.top + rect.bottom) / 2};
     const auto reads = [&] {
         wchar_t text[MAX_PATH] = {};

@@ -7,25 +7,58 @@
 #include <algorithm>
 #include <filesystem>
 #include <iterator>
+#include <span>
+#include <sstream>
+#include <string_view>
 
 namespace
 {
 constexpr DWORD StepTimeoutMs = 60'000;
 constexpr DWORD PollMs = 20;
+
+constexpr std::wstring_view NumberNames[] = {L"INDEX", L"NUMBER", L"COUNT", L"BUTTONS",
+                                             L"X",     L"Y",      L"WIDTH", L"HEIGHT"};
+constexpr size_t MaxDigits = 5;
+
+std::vector<std::wstring> Split(const std::wstring& text, wchar_t separator)
+{
+    std::vector<std::wstring> parts;
+    std::wistringstream stream(text);
+    for (std::wstring part; std::getline(stream, part, separator);)
+        parts.push_back(part);
+    return parts;
+}
+
+bool IsNumber(const std::wstring& text)
+{
+    const auto isDigit = [](wchar_t c) { return c >= L'0' && c <= L'9'; };
+    return !text.empty() && text.size() <= MaxDigits && std::ranges::all_of(text, isDigit);
+}
+
+/// Whether an argument is what its name in the table says: a number, one of some words, or any text.
+bool IsArgument(const std::wstring& name, const std::wstring& text)
+{
+    if (std::ranges::find(NumberNames, name) != std::end(NumberNames))
+        return IsNumber(text);
+    return name.find(L'|') == std::wstring::npos || std::ranges::count(Split(name, L'|'), text) != 0;
+}
 } // namespace
 
 struct CScriptRunner::CStepRow
 {
     const wchar_t* pszName;
-    const wchar_t* pszArguments; ///< for people; a name in brackets may be left out
+    const wchar_t*
+        pszArguments; ///< their names; one in brackets may be left out, one with bars lists the words to choose
     void (CScriptRunner::*pfnTake)(const Arguments&);
 
-    size_t CountArguments() const
+    bool Takes(const Arguments& arguments) const
     {
-        const std::wstring text = pszArguments;
-        return text.empty() ? 0 : std::ranges::count(text, L' ') + 1;
+        const std::vector<std::wstring> names = Split(pszArguments, L' ');
+        const auto nOptional = std::ranges::count_if(names, [](const auto& name) { return name.starts_with(L'['); });
+        return arguments.size() + nOptional >= names.size() && arguments.size() <= names.size() &&
+               std::ranges::equal(arguments, std::span(names).first(arguments.size()),
+                                  [](const auto& text, const auto& name) { return IsArgument(name, text); });
     }
-    size_t CountNeeded() const { return CountArguments() - std::ranges::count(std::wstring_view(pszArguments), L'['); }
 };
 
 const CScriptRunner::CStepRow CScriptRunner::stepTable[] = {
@@ -86,8 +119,7 @@ bool CScriptRunner::Check(const std::vector<CStep>& steps, std::wstring& error)
     for (const CStep& step : steps)
     {
         const CStepRow* const pRow = FindRow(step);
-        const size_t nArguments = step.arguments.size();
-        if (pRow != nullptr && nArguments >= pRow->CountNeeded() && nArguments <= pRow->CountArguments())
+        if (pRow != nullptr && pRow->Takes(step.arguments))
             continue;
         error = L"line " + std::to_wstring(step.nLine) + L": " +
                 (pRow ? L"the step is " + step.strName + L" " + pRow->pszArguments : L"unknown step " + step.strName);

@@ -7,6 +7,7 @@
 #include <windows.h>
 
 #include <functional>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -96,10 +97,12 @@ private:
 
     /// Waits until the condition holds, for as long as a step may take.
     void WaitUntil(const std::function<bool()>& condition, const std::wstring& what);
-    /// What the page's script answers as text; waits for the element that it needs while the answer is null.
+    /// What the page's script answers, as text of JSON.
     std::wstring AskPage(const std::wstring& expression);
+    /// Waits until the expression gives an element that shows, and clicks it.
     void ClickInPage(const std::wstring& elementExpression, const std::wstring& what);
-    RECT GetButtonRect(int nIndex, bool bScreen);
+    /// In coordinates of the screen.
+    RECT GetButtonRect(int nIndex);
     void ClickScreen(POINT point);
     /// Waits until all that the engine has told so far and all input has reached the window and has been drawn.
     void Settle();

@@ -2,6 +2,7 @@
 
 import os
 import pathlib
+import shutil
 import signal
 import subprocess
 import tempfile
@@ -67,7 +68,7 @@ class BenchTest(unittest.TestCase):
 
     def setUp(self):
         self.folder = pathlib.Path(tempfile.mkdtemp(prefix="bench-test."))
-        self.addCleanup(lambda: subprocess.run(["rm", "-rf", self.folder], check=True))
+        self.addCleanup(shutil.rmtree, self.folder)
         self.addCleanup(self.expect_nothing_left)
 
     def expect_nothing_left(self):

@@ -43,6 +43,13 @@ class Failures(BenchTest):
     def test_unknown_step(self):
         self.expect_failure(self.finish(self.start_script("reload\n\nfly away")), WRONG_OPTION, "line 3: unknown step fly")
 
+    def test_step_with_a_wrong_argument(self):
+        for step, form in (("press zoom", "press INDEX"), ("press", "press INDEX"), ("expect-focus pgae", "expect-focus address|toolbar|page"),
+                           ("resize 400", "resize WIDTH HEIGHT"), ("reload page", "reload")):
+            with self.subTest(step):
+                run = self.finish(self.start_script(f"wait-for-load\n{step}"))
+                self.expect_failure(run, WRONG_OPTION, f"line 2: the step is {form}")
+
     def test_failed_step(self):
         self.expect_failure(self.finish(self.start_script("wait-for-load\nselect-tab 5")), 1, "line 2: select-tab: there is no tab 5")
 

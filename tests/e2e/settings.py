@@ -40,18 +40,17 @@ class Settings(BenchTest):
     def forget(self):
         wine("reg", "delete", rf"HKCU\{PRODUCT}", "/f")
 
-    def test_row(self):
-        """The first start of all has a row of its own; the next leaves that to the browser."""
+    def test_only_the_first_start_has_a_row_of_its_own(self):
         self.run_script("wait-for-load\nexpect-own-row yes")
         self.assertEqual(stored("Options", "ToolbarFirstTime"), "1")
         self.run_script("wait-for-load\nexpect-own-row no")
 
-    def test_layout(self):
+    def test_stored_layout_shows(self):
         """A root menu, the highlight box, a separator and the zoom box."""
         store("Toolbar", "Layout", "000100070001000100010008")
         self.run_script("wait-for-load\nexpect-toolbar 4")
 
-    def test_language(self):
+    def test_stored_language_shows(self):
         wine("reg", "add", rf"HKLM\{PRODUCT}", "/v", "Install_Dir", "/d",
              wine("winepath", "-w", BROWSER.parent).strip(), "/f")
         self.addCleanup(wine, "reg", "delete", rf"HKLM\{PRODUCT}", "/v", "Install_Dir", "/f")
@@ -61,7 +60,7 @@ class Settings(BenchTest):
             expect-box 21 "Auf der Seite hervorheben"
             """)
 
-    def test_search_engine(self):
+    def test_page_installs_a_search_engine(self):
         """A page installs its engine when the person agrees, and the box then searches by it."""
         self.run_script("""
             wait-for-load
@@ -79,7 +78,7 @@ class Settings(BenchTest):
         self.assertEqual(stored("Button3", "WebSearchTitle"), "Bench")
         self.assertRegex(stored("Button3", "WebSearchURL"), r"^http://127\.0\.0\.1:\d+/search\?q=%%WORD%%$")
 
-    def test_search_engine_refused(self):
+    def test_refused_search_engine_is_not_kept(self):
         self.run_script("""
             wait-for-load
             navigate commands.html

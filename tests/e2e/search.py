@@ -95,17 +95,20 @@ class Search(BenchTest):
             """ + "expect-in-page " + words("document.querySelectorAll('font').length === 0"))
 
     def test_zoom_and_back(self):
-        """The page and its frames are as large as they should be, and no frame is loaded anew."""
+        """The page and the text in its frames are as large as they should be, and no frame is loaded anew."""
         frame = "document.querySelector('iframe').getBoundingClientRect().width"
+        # The engine counts a frame's inside in units of its own, which grow with the frame.
+        text = f"frames[0].document.querySelector('h2').getBoundingClientRect().height * {frame} / frames[0].innerWidth"
         run = self.run_script(
             load("frames.html") + f"""
-            expect-in-page {words(f"(window.kept = {frame}) > 0")}
+            expect-in-page {words(f"(window.kept = {frame}) > 0 && (window.keptText = {text}) > 0")}
             """ + zoom("150%") + f"""
-            expect-in-page {words(f"Math.abs({frame} - 1.5 * kept) < 1")}
-            expect-in-page {words("frames[0].document.body.style.zoom === '66%'")}
+            expect-in-page {words(f"Math.abs({frame} / kept - 1.5) < 0.01")}
+            expect-in-page {words(f"Math.abs({text} / keptText - 1.5) < 0.03")}
             expect-box {ZOOM} 150%
             """ + zoom(100) + f"""
-            expect-in-page {words(f"Math.abs({frame} - kept) < 1")}
+            expect-in-page {words(f"Math.abs({frame} / kept - 1) < 0.01")}
+            expect-in-page {words(f"Math.abs({text} / keptText - 1) < 0.03")}
             expect-in-page {words("document.querySelectorAll('#__hw__trelvix__zoom__').length === 1")}
             expect-box {ZOOM} 100
             """)
@@ -123,6 +126,31 @@ class Search(BenchTest):
             expect-in-page {no_wrapper}
             key Enter
             expect-in-page {words("document.body.firstElementChild.style.zoom === '999%'")}
+            """)
+
+    def test_zoom_from_the_list(self):
+        self.run_script(
+            load("text.html") + f"""
+            press {ZOOM}
+            key Down
+            expect-box {ZOOM} 120%
+            expect-in-page {words("document.body.firstElementChild.style.zoom === '120%'")}
+            key Down
+            expect-box {ZOOM} 150%
+            expect-in-page {words("document.body.firstElementChild.style.zoom === '150%'")}
+            """)
+
+    def test_zoom_ends_with_a_refresh(self):
+        """The box is ready again afterwards."""
+        self.run_script(
+            load("text.html") + zoom(150) + f"""
+            expect-in-page {words("document.body.firstElementChild.style.zoom === '150%'")}
+            reload
+            wait-for-load
+            expect-box {ZOOM} 100%
+            expect-in-page {words("document.getElementById('__hw__trelvix__zoom__') === null")}
+            """ + zoom(80) + f"""
+            expect-in-page {words("document.body.firstElementChild.style.zoom === '80%'")}
             """)
 
     def test_zoom_ends_with_the_page(self):

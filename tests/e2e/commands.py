@@ -132,7 +132,7 @@ class Commands(BenchTest):
             answer Yes
             expect-dialog "undefinedInFrame"
             answer Yes
-            wait-for-load
+            expect-in-page "document.readyState === 'complete'"
             click #call
             expect-dialog "missingFunction"
             answer No

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "framework/ComBoundary.h"
 #include "framework/ComModule.h"
 
 #include <windows.h>
@@ -52,7 +53,9 @@ public:
 private:
     HRESULT LoadTypeInfo()
     {
-        return m_spTypeInfo ? S_OK : CComModule::LoadTypeInfo(__uuidof(Interface), &m_spTypeInfo);
+        if (m_spTypeInfo)
+            return S_OK;
+        return ComBoundary([&] { return CComModule::LoadTypeInfo(__uuidof(Interface), &m_spTypeInfo); });
     }
 
     Microsoft::WRL::ComPtr<ITypeInfo> m_spTypeInfo;

@@ -211,17 +211,36 @@ LRESULT CWnd::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
     return CallHandler(current) ? current.lResult : DefWindowProc(message, wParam, lParam);
 }
 
+/// Has a message under way in a window for as long as it lives.
+class CWnd::CMessageScope
+{
+public:
+    CMessageScope(CWnd& wnd, CWndMessage& message)
+        : m_wnd(wnd), m_hWnd(wnd.m_hWnd), m_pOuterMessage(std::exchange(wnd.m_pCurrentMessage, &message))
+    {
+    }
+    CMessageScope(const CMessageScope&) = delete;
+    CMessageScope& operator=(const CMessageScope&) = delete;
+    ~CMessageScope()
+    {
+        // The handler may have destroyed the window, and the object with it.
+        if (FromHandlePermanent(m_hWnd) == &m_wnd)
+            m_wnd.m_pCurrentMessage = m_pOuterMessage;
+    }
+
+private:
+    CWnd& m_wnd;
+    const HWND m_hWnd;
+    CWndMessage* const m_pOuterMessage;
+};
+
 bool CWnd::CallHandler(CWndMessage& message)
 {
     const AFX_MSGMAP_ENTRY* pEntry = FindEntry(GetMessageMap(), message);
     if (pEntry == nullptr)
         return false;
-    const HWND hWnd = m_hWnd;
-    CWndMessage* const pOuterMessage = std::exchange(m_pCurrentMessage, &message);
+    const CMessageScope scope(*this, message);
     pEntry->pfnCall(*this, message);
-    // The handler may have destroyed the window, and the object with it.
-    if (FromHandlePermanent(hWnd) == this)
-        m_pCurrentMessage = pOuterMessage;
     return true;
 }
 

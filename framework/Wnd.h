@@ -64,6 +64,8 @@ protected:
     virtual void PostNcDestroy();
 
 private:
+    class CMessageScope;
+
     static LRESULT CALLBACK AfxWndProc(HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam);
     bool CallHandler(CWndMessage& message);
     bool ReflectCommand(WPARAM wParam, LPARAM lParam);

@@ -222,6 +222,7 @@ TEST_F(MessageMap, KeepsAnExceptionOutOfTheWindowSystem)
     m_wnd.m_onMessage = [](WPARAM, LPARAM) -> LRESULT { throw std::runtime_error("in a handler"); };
     EXPECT_EQ(0, Send(FirstMessage, 0, 0));
     EXPECT_EQ(2, Send(SecondMessage, 0, 0)) << "the window goes on";
+    EXPECT_EQ(0, m_wnd.Default()) << "nothing is under way afterwards";
 }
 
 TEST_F(MessageMap, HearsOfTheDestructionOfTheWindow)

@@ -64,6 +64,9 @@ public:
     /// direction.
     HRESULT MoveFocus(bool bForward);
 
+    /// Tells the band, if there is one, that an item gained or lost the focus.
+    void NotifyFocusChange(bool bFocus);
+
     /// Acts on the commands that a page can send by an address; see the pseudo-URLs. Both change their argument.
     bool HandleSearchWebUrl(std::wstring& strUrl);
     bool HandleNewInstanceUrl(std::wstring& strUrl);

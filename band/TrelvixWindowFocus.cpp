@@ -57,11 +57,16 @@ HRESULT CTrelvixWindow::MoveFocus(bool bForward)
         if (pButton == nullptr || !pButton->IsFocusable())
             continue;
         pButton->TakeFocus();
-        if (m_pBand != nullptr)
-            m_pBand->NotifyFocusChange(true);
+        NotifyFocusChange(true);
         return S_OK;
     }
     return S_FALSE;
+}
+
+void CTrelvixWindow::NotifyFocusChange(bool bFocus)
+{
+    if (m_pBand != nullptr)
+        m_pBand->NotifyFocusChange(bFocus);
 }
 
 int CTrelvixWindow::FindFocusPosition() const

@@ -1,6 +1,5 @@
 #include "tools/ComboSearch.h"
 
-#include "band/ATLTrelvix.h"
 #include "band/TrelvixWindow.h"
 #include "tools/ButtonSearchWeb.h"
 
@@ -49,9 +48,8 @@ void CComboSearch::OnSetFocus()
         return;
     ShowPlaceholder(false);
     m_pOwnerButton->m_bHasFocus = true;
-    CTrelvixWindow* const pToolbar = m_pOwnerButton->m_pToolbar;
-    if (pToolbar != nullptr && pToolbar->GetBand() != nullptr)
-        pToolbar->GetBand()->NotifyFocusChange(true);
+    if (CTrelvixWindow* const pToolbar = m_pOwnerButton->m_pToolbar)
+        pToolbar->NotifyFocusChange(true);
 }
 
 void CComboSearch::OnSelEndOk()

@@ -27,8 +27,11 @@ KNOWN_TO = {
 # band/ knows its items by the button table alone, but for what the window itself opens or asks.
 ITEMS_KNOWN_TO = {
     "band/ButtonTable.cpp": ITEMS,
-    "band/TrelvixWindow.cpp": ("dialogs/", "tools/ButtonSearchGoogle.h"),
+    "band/TrelvixWindow.cpp": ("dialogs/",),
 }
+
+# What an item knows of band/.
+HUB = ("band/ButtonIndex.h", "band/TrelvixButton.h", "band/TrelvixWindow.h")
 
 
 def sources():
@@ -59,6 +62,8 @@ def broken_rule(source, included):
     if folder == "band" and included.startswith(ITEMS):
         if not included.startswith(ITEMS_KNOWN_TO.get(source, ("\0",))):
             return "is an item's, which only band/ButtonTable.cpp knows"
+    if source.startswith(ITEMS) and included.startswith("band/") and included not in HUB:
+        return "is not what an item knows of band/"
     return None
 
 

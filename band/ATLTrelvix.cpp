@@ -61,7 +61,9 @@ HRESULT CATLTrelvix::Connect(IUnknown* pUnkSite)
     if (!CreateToolbarWindow())
         return E_FAIL;
     AdviseBrowserEvents();
-    m_pToolbarWindow->SetBand(this);
+    // The browser may have closed the band while it was advised.
+    if (m_pToolbarWindow)
+        m_pToolbarWindow->SetBand(this);
     PublishToolbarWindow();
     return S_OK;
 }
@@ -80,6 +82,7 @@ bool CATLTrelvix::CreateToolbarWindow()
     GetClientRect(m_hWndParent, &rect);
     const CXPStyleContext style;
     ReleaseToolbarWindow();
+    m_hWnd = nullptr;
     m_pToolbarWindow.reset(new (std::nothrow) CTrelvixWindow);
     if (m_pToolbarWindow == nullptr)
         return false;
@@ -127,7 +130,8 @@ void CATLTrelvix::PublishToolbarWindow()
 {
     if (m_pWebBrowser == nullptr)
         return;
-    const _variant_t window(static_cast<long>(reinterpret_cast<LONG_PTR>(m_pToolbarWindow->m_hWnd)));
+    const HWND hWnd = m_pToolbarWindow ? m_pToolbarWindow->m_hWnd : nullptr;
+    const _variant_t window(static_cast<long>(reinterpret_cast<LONG_PTR>(hWnd)));
     m_pWebBrowser->PutProperty(_bstr_t(ToolbarWindowProperty), window);
 }
 

@@ -5,6 +5,8 @@
 #include "framework/ComBoundary.h"
 #include "settings/SettingsStore.h"
 
+#include <utility>
+
 namespace
 {
 constexpr LONG MinimumWidth = 250;
@@ -37,7 +39,7 @@ STDMETHODIMP CATLTrelvix::CloseDW(DWORD)
 {
     if (!IsWindow(m_hWnd))
         return S_OK;
-    DestroyWindow(m_hWnd);
+    DestroyWindow(std::exchange(m_hWnd, nullptr));
     ReleaseToolbarWindow();
     return S_OK;
 }
@@ -86,12 +88,12 @@ DWORD CATLTrelvix::GetModeFlags()
 
 STDMETHODIMP CATLTrelvix::UIActivateIO(BOOL fActivate, MSG* pMsg)
 {
-    return m_pToolbarWindow ? m_pToolbarWindow->UIActivateIO(fActivate, pMsg) : S_FALSE;
+    return m_pToolbarWindow ? ComBoundary([&] { return m_pToolbarWindow->UIActivateIO(fActivate, pMsg); }) : S_FALSE;
 }
 
 STDMETHODIMP CATLTrelvix::HasFocusIO()
 {
-    return m_pToolbarWindow ? m_pToolbarWindow->HasFocusIO() : S_FALSE;
+    return m_pToolbarWindow ? ComBoundary([&] { return m_pToolbarWindow->HasFocusIO(); }) : S_FALSE;
 }
 
 STDMETHODIMP CATLTrelvix::TranslateAcceleratorIO(MSG* pMsg)

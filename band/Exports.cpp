@@ -10,12 +10,25 @@ namespace
 {
 CComModule s_module;
 CTrelvixApp s_app;
+
+/// The loader takes no exception, so a start that runs out of memory is a refused one.
+BOOL Start() noexcept
+{
+    try
+    {
+        return s_app.InitInstance();
+    }
+    catch (...)
+    {
+        return FALSE;
+    }
+}
 } // namespace
 
 BOOL WINAPI DllMain(HINSTANCE, DWORD dwReason, void* pProcessEnds)
 {
     if (dwReason == DLL_PROCESS_ATTACH)
-        return s_app.InitInstance();
+        return Start();
     if (dwReason != DLL_PROCESS_DETACH)
         return TRUE;
     s_app.ExitInstance();

@@ -92,7 +92,8 @@ void CTrelvixWindow::OnDestroy()
 {
     if (m_pUIHandler)
         m_pUIHandler->ClearToolbarWindow();
-    DestroyButtons();
+    if (!m_bMakingLayout) // else an item may be at work, and the items go when the layout is done
+        DestroyButtons();
     Default();
 }
 

@@ -44,6 +44,7 @@ bool CTrelvixWindow::NavigateTo(const wchar_t* pszUrl, bool bNew)
     const _bstr_t url(pszUrl);
     if (GetWebBrowser() == nullptr)
         return false;
+    const auto spThis = Hold();
     const long nNewFlags = IsIE7OrLater() ? navOpenInNewTab : navOpenInNewWindow;
     _variant_t flags(bNew ? nNewFlags : 0L);
     if (SUCCEEDED(GetWebBrowser()->Navigate(url, &flags, nullptr, nullptr, nullptr)) || !bNew)
@@ -68,7 +69,8 @@ bool CTrelvixWindow::InstallUIHandler()
         return false;
     if (PrepareUIHandler(*spHandler.Get(), spDocument.Get()))
         return SetUIHandler(spDocument.Get(), spHandler.Get());
-    m_pUIHandler.Reset();
+    if (m_pUIHandler.Get() == spHandler.Get())
+        m_pUIHandler.Reset();
     return false;
 }
 
@@ -77,6 +79,9 @@ bool CTrelvixWindow::PrepareUIHandler(ITrelvixMSHTMLUIHandler& handler, IDispatc
     const ComPtr<IHTMLDocument2> spDocument = QueryFor<IHTMLDocument2>(pDocument);
     const ComPtr<IOleClientSite> spSite = spDocument ? GetClientSite(spDocument.Get()) : nullptr;
     if (!spSite || FAILED(handler.SetOleClientSite(spSite.Get())))
+        return false;
+    // Only the handler that the window holds is told of the window's end.
+    if (m_pUIHandler.Get() != &handler || m_hWnd == nullptr)
         return false;
     // The window's address in the disguise of a COM object; the handler reads it back as what it is.
     VARIANT window = {};

@@ -45,6 +45,8 @@ void CTrelvixWindow::MakeLayout()
     CreateButtons();
     SetPadding();
     PlaceButtons();
+    if (m_hWnd == nullptr) // the band ended meanwhile
+        DestroyButtons();
 }
 
 void CTrelvixWindow::ReadLayout()
@@ -72,7 +74,7 @@ void CTrelvixWindow::DestroyButtons()
 
 void CTrelvixWindow::CreateButtons()
 {
-    for (int nIndex = 0; nIndex < ButtonCount; ++nIndex)
+    for (int nIndex = 0; nIndex < ButtonCount && m_hWnd != nullptr; ++nIndex)
     {
         std::unique_ptr<CObject> pObject = GetButtonTable()[nIndex]->CreateObject();
         if (pObject == nullptr)
@@ -95,11 +97,12 @@ void CTrelvixWindow::SetPadding()
 
 void CTrelvixWindow::PlaceButtons()
 {
-    for (int n = 0; n < MaxLayoutEntries && m_aOrder[n] != -1; ++n)
+    for (int n = 0; n < MaxLayoutEntries && m_aOrder[n] != -1 && m_hWnd != nullptr; ++n)
         if (CTrelvixButton* pButton = GetButton(m_aOrder[n]))
         {
             AddButtons(1, &pButton->GetTBButton());
             pButton->Show(true);
-            pButton->Place();
+            if (m_hWnd != nullptr)
+                pButton->Place();
         }
 }

@@ -43,9 +43,14 @@ void CFakeButtons::Reset()
 void CFakeButtons::Tell(int nIndex, const std::string& strCall)
 {
     m_calls.push_back(std::to_string(nIndex) + " " + strCall);
+    LetTestAct(std::string(m_calls.back()));
+}
+
+void CFakeButtons::LetTestAct(const std::string& strCall) const
+{
     // A copy, since the test may set another within the call.
     if (const auto onCall = m_onCall)
-        onCall(std::string(m_calls.back()));
+        onCall(strCall);
 }
 
 CFakeButton::CFakeButton(int nIndex)
@@ -78,6 +83,7 @@ const CRuntimeClass* CFakeButton::GetRuntimeClass() const
 
 bool CFakeButton::Initialize(CTrelvixWindow* pParent)
 {
+    CFakeButtons::Get().LetTestAct(std::to_string(m_nButtonId) + " Initialize");
     m_bHasControl = GetTraits().bHasControl;
     m_bFocusable = GetTraits().bFocusable;
     m_nControlWidth = 50;

@@ -39,12 +39,15 @@ public:
 
     CTraits& operator[](int nIndex) { return m_traits[nIndex]; }
 
-    std::function<void(const std::string& strCall)> m_onCall; ///< called within each call, after it was kept
+    /// Called within each call, after it was kept, and within Initialize ("4 Initialize"), which is not kept.
+    std::function<void(const std::string& strCall)> m_onCall;
     int m_nLiving = 0;
     int m_nCreated = 0;
 
 private:
     friend class CFakeButton;
+
+    void LetTestAct(const std::string& strCall) const;
 
     std::array<CTraits, ButtonCount> m_traits;
     std::vector<std::string> m_calls;

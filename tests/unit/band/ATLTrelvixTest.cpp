@@ -116,6 +116,7 @@ TEST_F(Band, DestroysItsWindowWhenItIsClosed)
     const HWND hWnd = GetBandWindow();
     EXPECT_EQ(S_OK, m_spBand->CloseDW(0));
     EXPECT_FALSE(IsWindow(hWnd));
+    EXPECT_EQ(nullptr, GetBandWindow());
     EXPECT_EQ(0u, CWnd::GetAttachedCount());
     EXPECT_EQ(S_OK, m_spBand->CloseDW(0)) << "a second time";
 }

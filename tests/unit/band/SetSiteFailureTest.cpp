@@ -86,6 +86,23 @@ TEST_F(FailingSite, IsHalfConnectedWhenTheToolbarCannotBeCreated)
     }
 }
 
+TEST_F(FailingSite, ForgetsTheToolbarOfTheSiteBefore)
+{
+    Connect();
+    const CCreationHook hook([](const std::wstring&, const CREATESTRUCTW&) { return false; });
+    EXPECT_EQ(E_FAIL, GiveSite(GetSiteObject()));
+    EXPECT_EQ(nullptr, GetBandWindow());
+}
+
+TEST_F(FailingSite, PublishesNoWindowThatWasClosedWhileItWasAdvised)
+{
+    CFakeCalls::Get().ActIn("ConnectionPoint.Advise", [&] { m_spBand->CloseDW(0); });
+    EXPECT_EQ(S_OK, GiveSite(GetSiteObject()));
+    const _variant_t& vWindow = m_spBrowser->m_properties[L"TRELVIX_HWND"];
+    EXPECT_EQ(VT_I4, V_VT(&vWindow));
+    EXPECT_EQ(0, V_I4(&vWindow));
+}
+
 TEST_F(FailingSite, StandsWithoutABrowser)
 {
     CFakeCalls::Get().FailAll("BandSite.QueryService", E_NOINTERFACE);

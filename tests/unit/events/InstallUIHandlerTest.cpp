@@ -174,6 +174,37 @@ TEST_P(FailingInstallation, ComesToNoHarmWhicheverCallFails)
 INSTANTIATE_TEST_SUITE_P(InstallUIHandler, FailingInstallation,
                          testing::Values(E_FAIL, E_ACCESSDENIED, E_OUTOFMEMORY, RPC_E_DISCONNECTED, S_OK));
 
+// The browser completes another navigation while it is asked for the document or its site.
+class NestedInstallation : public InstallUIHandler, public testing::WithParamInterface<const char*>
+{
+};
+
+TEST_P(NestedInstallation, KeepsTheHandlerOfTheNavigationInside)
+{
+    ComPtr<IDocHostUIHandler> spInner;
+    CFakeCalls::Get().ActIn(GetParam(), [&] {
+        EXPECT_TRUE(m_pWindow->InstallUIHandler());
+        spInner = GetDocument().m_spUIHandler;
+    });
+    EXPECT_FALSE(m_pWindow->InstallUIHandler());
+    EXPECT_EQ(spInner.Get(), GetDocument().m_spUIHandler.Get());
+}
+
+TEST_P(NestedInstallation, LeavesNoHandlerWithAWindowThatIsGone)
+{
+    CFakeCalls::Get().ActIn(GetParam(), [&] { m_pWindow->InstallUIHandler(); });
+    m_pWindow->InstallUIHandler();
+    m_pWindow.reset();
+    ComPtr<IOleCommandTarget> spTarget;
+    ASSERT_EQ(S_OK, GetDocument().m_spUIHandler.As(&spTarget));
+    _variant_t vDocument(static_cast<IUnknown*>(GetDocument().AsObject()));
+    m_spSite->m_hrAnswer = E_ABORT;
+    EXPECT_EQ(E_ABORT, spTarget->Exec(nullptr, OLECMDID_SHOWSCRIPTERROR, 0, &vDocument, nullptr));
+}
+
+INSTANTIATE_TEST_SUITE_P(InstallUIHandler, NestedInstallation,
+                         testing::Values("WebBrowser.get_Document", "Document.GetClientSite"));
+
 TEST_F(InstallUIHandler, StandsABrowserThatReEntersWithAPageThatHasNoSite)
 {
     // The browser completes another navigation while it is asked for the document.

@@ -240,6 +240,16 @@ TEST_F(Walks, EndWhereAShorterLayoutEnds)
     EXPECT_EQ(0, std::count(calls.begin(), calls.end(), "4 OnBrowserEvent 104"));
 }
 
+TEST_F(Walks, InstallNoHandlerForABandThatEndsMeanwhile)
+{
+    const ComPtr<CFakeClientSite> spSite = MakeFake<CFakeClientSite>();
+    CFakeDocument& document = CFakePage::GetDocument(m_page.GetTop());
+    document.m_spClientSite = spSite;
+    CFakeCalls::Get().ActIn("WebBrowser.get_Document", [this] { Disconnect(); });
+    Send(CBrowserEvent::NavigateComplete2(m_page.GetTop().AsFrame(), PageUrl));
+    EXPECT_EQ(nullptr, document.m_spUIHandler.Get());
+}
+
 TEST_F(Walks, EndWithTheBandInsideABoxOfAPagesCommand)
 {
     const CMessageBoxAnswerer answerer(IDOK, [this] { Disconnect(); });

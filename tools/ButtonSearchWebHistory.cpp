@@ -46,8 +46,10 @@ void CButtonSearchWeb::SaveHistory()
 {
     if (m_bNoHistory || !IsWindow(m_comboSearch))
         return;
-    CSettingsStore store(SettingsRoot);
     const int nWords = std::min(HistorySize, m_comboSearch.GetCount() - 1);
+    if (nWords <= 0)
+        return;
+    CSettingsStore store(SettingsRoot);
     for (int n = 0; n < nWords; ++n)
     {
         std::wstring strWord;

@@ -49,6 +49,11 @@ void CDocument::Tell(const char* pszFunction, Json arguments)
         m_pBrowser->GetPage().Tell(m_frameId, pszFunction, std::move(arguments));
 }
 
+void CDocument::ForgetSearch()
+{
+    m_pMarkup->GetSearch().Forget();
+}
+
 bool CDocument::IsOpenToTop()
 {
     if (!m_bOpenToTop)

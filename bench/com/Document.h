@@ -77,6 +77,8 @@ public:
     void ForgetElement(int nElement);
 
     CDocumentMarkup& GetMarkup() { return *m_pMarkup; }
+    /// The caller changes the page: the hits that a search promised may not be there any longer.
+    void ForgetSearch();
 
     /// The document's window, the same one as long as anyone holds it.
     Microsoft::WRL::ComPtr<CWindow> GetWindowObject();

@@ -51,8 +51,10 @@ protected:
         });
     }
 
+    /// For what may change the page.
     HRESULT Tell(const char* pszFunction, Json arguments) const
     {
+        m_spDocument->ForgetSearch();
         return Ask(pszFunction, std::move(arguments), [](const Json&) { return S_OK; });
     }
 

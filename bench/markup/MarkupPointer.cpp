@@ -10,6 +10,8 @@ namespace
 {
 /// Asked for by its own kind alone: tells these pointers from all other objects.
 const IID IID_CMarkupPointer = {0xc1d6f0a4, 0x83e2, 0x4b57, {0xa6, 0x19, 0x0f, 0x72, 0x5d, 0xe8, 0x34, 0x9b}};
+
+constexpr int NoPointer = 0; // the numbers of markup.js begin with 1
 } // namespace
 
 CMarkupPointer::CMarkupPointer(CDocument& document)
@@ -129,22 +131,23 @@ STDMETHODIMP CMarkupPointer::FindText(OLECHAR* pszText, DWORD dwFlags, IMarkupPo
         return E_NOTIMPL;
     return WithPage([&]() -> HRESULT {
         const auto spEnd = From(pEnd, GetDocumentObject());
-        if (pszText == nullptr || *pszText == L'\0' || !m_bPositioned || !spEnd)
+        if (pszText == nullptr || *pszText == L'\0' || !m_bPositioned || (pEnd != nullptr && !spEnd))
             return E_INVALIDARG;
-        return Search(pszText, *spEnd.Get());
+        return Search(pszText, spEnd.Get());
     });
 }
 
-HRESULT CMarkupPointer::Search(const std::wstring& text, CMarkupPointer& end)
+HRESULT CMarkupPointer::Search(const std::wstring& text, CMarkupPointer* pEnd)
 {
     CDocumentMarkup& markup = GetMarkup();
-    const auto bFound = markup.GetSearch().TakeNext(text, m_nPointer, end.m_nPointer);
+    const int nEnd = pEnd != nullptr ? pEnd->m_nPointer : NoPointer;
+    const auto bFound = markup.GetSearch().TakeNext(text, m_nPointer, nEnd);
     if (bFound == false)
         return S_FALSE;
-    const auto numbers = {m_nPointer, markup.AddText(text), end.m_nPointer};
+    const auto numbers = {m_nPointer, markup.AddText(text), nEnd};
     if (bFound)
     {
-        markup.Do("find", numbers);
+        markup.Do("findNext", numbers);
         return S_OK;
     }
     markup.GetSearch().Forget();
@@ -153,7 +156,9 @@ HRESULT CMarkupPointer::Search(const std::wstring& text, CMarkupPointer& end)
         return GetDocumentObject().GetFailure();
     if (*further < 0)
         return S_FALSE;
-    markup.GetSearch().OnFound(text, m_nPointer, end.m_nPointer, further->get<int>());
-    end.m_bPositioned = true;
+    if (pEnd == nullptr)
+        return S_OK;
+    markup.GetSearch().OnFound(text, m_nPointer, nEnd, further->get<int>());
+    pEnd->m_bPositioned = true;
     return S_OK;
 }

@@ -37,7 +37,7 @@ public:
     STDMETHODIMP MoveToPointer(IMarkupPointer* pPointer) override;
     STDMETHODIMP MoveToContainer(IMarkupContainer* pContainer, BOOL bAtStart) override;
     STDMETHODIMP IsEqualTo(IMarkupPointer* pPointer, BOOL* pbEqual) override;
-    /// Knows no flags, and no end of the search but the document's.
+    /// Knows no flags, and no end of the search but the document's. The pointer that goes to the hit's end may be null.
     STDMETHODIMP FindText(OLECHAR* pszText, DWORD dwFlags, IMarkupPointer* pEnd, IMarkupPointer* pEndSearch) override;
 
 private:
@@ -50,7 +50,7 @@ private:
         return ComBoundary([&]() -> HRESULT { return GetDocumentObject().IsOnShow() ? body() : RPC_E_DISCONNECTED; });
     }
 
-    HRESULT Search(const std::wstring& text, CMarkupPointer& end);
+    HRESULT Search(const std::wstring& text, CMarkupPointer* pEnd);
 
     int m_nPointer; ///< in markup.js
     POINTER_GRAVITY m_eGravity = POINTER_GRAVITY_Left;

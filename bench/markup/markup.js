@@ -20,8 +20,13 @@ bench.markup = (() => {
     class Pointer {
         place = null;
         keepsRight = false;
-        isLost = false; // the hit that it was promised has gone
+        isLost = false; // the hit that its caller was promised has gone
         #range = new Range();
+
+        moveTo(place) {
+            this.place = place;
+            this.isLost = false;
+        }
 
         update() {
             if (this.place)
@@ -138,12 +143,10 @@ bench.markup = (() => {
     /** The number of further hits behind the one found, -1 when none is found. */
     const find = (pointer, words, end) => {
         const hit = getText().find(words, pointer.place);
-        pointer.isLost = !hit;
         if (!hit)
             return -1;
-        pointer.place = places.inText(hit.start.text, hit.start.offset);
-        if (end)
-            end.place = places.inText(hit.end.text, hit.end.offset);
+        pointer.moveTo(places.inText(hit.start.text, hit.start.offset));
+        end?.moveTo(places.inText(hit.end.text, hit.end.offset));
         return hit.left;
     };
 
@@ -182,17 +185,19 @@ bench.markup = (() => {
         pointer: (number) => void pointers.set(number, new Pointer()),
         drop: (number) => void pointers.delete(number),
         gravity: (number, keepsRight) => void (at(number).keepsRight = Boolean(keepsRight)),
-        moveToStart: (number) => void (at(number).place = places.firstIn(document)),
-        moveToEnd: (number) => void (at(number).place = places.lastIn(document)),
-        moveToPointer: (number, other) => void (at(number).place = at(other).place),
+        moveToStart: (number) => at(number).moveTo(places.firstIn(document)),
+        moveToEnd: (number) => at(number).moveTo(places.lastIn(document)),
+        moveToPointer: (number, other) => at(number).moveTo(at(other).place),
         moveToElement(number, element, adjacency) {
             if (!bench.element(element).isConnected)
                 return false;
-            at(number).place = adjacentPlaces[adjacency](bench.element(element));
+            at(number).moveTo(adjacentPlaces[adjacency](bench.element(element)));
             return true;
         },
         isEqual: (number, other) => places.isSame(at(number).place, at(other).place),
         find: (number, words, end) => find(at(number), texts[words], at(end)),
+        /** The same, for a caller who has been told already that there is a hit. */
+        findNext: (number, words, end) => void (at(number).isLost = find(at(number), texts[words], at(end)) < 0),
         make: (element, tag, attributes) => bench.hold(element, make(texts[tag], texts[attributes])),
         release: (element) => bench.release(element),
         insert: (element, start, end) => !at(start).isLost && insert(bench.element(element), at(start).place, at(end).place),

@@ -14,6 +14,10 @@ bench.ReaderText = (() => {
         "SELECT", "SVG", "TEXTAREA", "VIDEO",
     ]);
 
+    /** Such an element shows its summary only. */
+    const isClosed = (element) => element.nodeName === "DETAILS" && !element.open;
+    const isSummary = (element) => element.nodeName === "SUMMARY";
+
     /** Case doesn't count, and blanks match as the reader sees them: any number of any kind is one. */
     const makePattern = (words) => new RegExp(words.split(/\s+/).map(RegExp.escape).join("\\s+"), "giu");
 
@@ -50,6 +54,19 @@ bench.ReaderText = (() => {
                 pieces.push(node.data);
                 length += node.length;
             };
+            const addContent = (element, isSeen) => {
+                if (isClosed(element)) {
+                    const summary = Array.from(element.children).find(isSummary);
+                    if (summary)
+                        addElement(summary);
+                    return;
+                }
+                for (let node = element.firstChild; node; node = node.nextSibling)
+                    if (node instanceof Element)
+                        addElement(node);
+                    else if (node instanceof Text && isSeen && node.length)
+                        addText(node);
+            };
             const addElement = (element) => {
                 if (replaced.has(element.nodeName.toUpperCase()))
                     return addBorder();
@@ -59,12 +76,8 @@ bench.ReaderText = (() => {
                 const isBlock = !inlineModes.has(style.display);
                 if (isBlock)
                     addBorder();
-                const isSeen = style.visibility === "visible";
-                for (let node = element.firstChild; node; node = node.nextSibling)
-                    if (node instanceof Element)
-                        addElement(node);
-                    else if (node instanceof Text && isSeen && node.length)
-                        addText(node);
+                if (style.contentVisibility !== "hidden")
+                    addContent(element, style.visibility === "visible");
                 if (isBlock)
                     addBorder();
             };

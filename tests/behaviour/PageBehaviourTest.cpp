@@ -25,6 +25,28 @@ void PageBehaviour::Load(const std::wstring& strSource)
     ASSERT_EQ(S_OK, m_spEnd->MoveToContainer(m_spContainer.Get(), FALSE));
 }
 
+void PageBehaviour::LoadWithFrames(const std::vector<std::wstring>& sources, std::optional<size_t> nForeign)
+{
+    m_spDocument = m_pPage->LoadWithFrames(sources, nForeign);
+    ASSERT_TRUE(m_spDocument);
+}
+
+HRESULT PageBehaviour::GetFrame(long nIndex, VARIANT* pvFrame)
+{
+    ComPtr<IHTMLFramesCollection2> spFrames;
+    EXPECT_EQ(S_OK, m_spDocument->get_frames(&spFrames));
+    _variant_t vIndex(nIndex);
+    return spFrames->item(&vIndex, pvFrame);
+}
+
+HRESULT PageBehaviour::GetFrameDocument(long nIndex, IHTMLDocument2** ppDocument)
+{
+    _variant_t vFrame;
+    EXPECT_EQ(S_OK, GetFrame(nIndex, &vFrame));
+    EXPECT_EQ(VT_DISPATCH, vFrame.vt);
+    return QueryFor<IHTMLWindow2>(vFrame.pdispVal)->get_document(ppDocument);
+}
+
 ComPtr<IHTMLElement> PageBehaviour::GetBody()
 {
     ComPtr<IHTMLElement> spBody;
@@ -81,6 +103,15 @@ std::wstring GetId(IHTMLElement* pElement)
     EXPECT_EQ(S_OK, pElement->get_id(&bstrId));
     _bstr_t id(bstrId, false);
     return id.length() != 0 ? id.GetBSTR() : L"";
+}
+
+std::wstring GetBodyText(IHTMLDocument2* pDocument)
+{
+    ComPtr<IHTMLElement> spBody;
+    EXPECT_EQ(S_OK, pDocument->get_body(&spBody));
+    _bstr_t text;
+    EXPECT_EQ(S_OK, spBody->get_innerText(text.GetAddress()));
+    return text.length() != 0 ? text.GetBSTR() : L"";
 }
 
 std::wstring GetZoom(IHTMLStyle* pStyle)
@@ -146,10 +177,12 @@ TEST_P(PageBehaviour, FindsTextThatRunsThroughInlineElements)
 
 TEST_P(PageBehaviour, FindsNoTextThatRunsOutOfABlock)
 {
-    Load(L"<p>one</p><p>two</p><div>three</div>four<br>five");
+    Load(L"<p>one</p><p>two</p><div>three</div>four<br>five<img>six<h3>seven</h3>");
     EXPECT_EQ(S_FALSE, Find(L"onetwo"));
     EXPECT_EQ(S_FALSE, Find(L"threefour"));
     EXPECT_EQ(S_FALSE, Find(L"fourfive"));
+    EXPECT_EQ(S_FALSE, Find(L"fivesix"));
+    EXPECT_EQ(S_FALSE, Find(L"sixseven"));
     EXPECT_EQ(S_OK, Find(L"four"));
 }
 
@@ -161,6 +194,45 @@ TEST_P(PageBehaviour, FindsOnlyWhatAReaderSees)
     EXPECT_THAT(m_pPage->GetTextsOf(L"FONT"), ElementsAre(L"word"));
     ASSERT_EQ(S_OK, m_spStart->MoveToPointer(m_spEnd.Get()));
     EXPECT_EQ(S_FALSE, Find(L"word"));
+}
+
+TEST_P(PageBehaviour, FindsNothingInFields)
+{
+    Load(L"<textarea>word</textarea><select><option>word</option></select>wo<select></select>rd");
+    EXPECT_EQ(S_FALSE, Find(L"word"));
+}
+
+TEST_P(PageBehaviour, FindsBlanksAsAReaderSeesThem)
+{
+    Load(L"<p>two\n   words</p><p>two\xA0<b> words</b></p><p>twowords</p>");
+    Mark(L"TWO words");
+    EXPECT_THAT(m_pPage->GetTextsOf(L"FONT"), ElementsAre(L"two\n   words"));
+    ASSERT_EQ(S_OK, m_spStart->MoveToPointer(m_spEnd.Get()));
+    Mark(L"two  words");
+    EXPECT_EQ(L"two\n   wordstwo\xA0 words", GetMarkedText());
+    ASSERT_EQ(S_OK, m_spStart->MoveToPointer(m_spEnd.Get()));
+    EXPECT_EQ(S_FALSE, Find(L"two words"));
+}
+
+TEST_P(PageBehaviour, FindsWithoutAnEndPointer)
+{
+    Load(L"<p>one two one</p>");
+    wchar_t szText[] = L"two";
+    ASSERT_EQ(S_OK, m_spStart->FindText(szText, 0, nullptr, nullptr));
+    Mark(L"one");
+    ASSERT_EQ(S_OK, m_spStart->MoveToPointer(m_spEnd.Get()));
+    EXPECT_EQ(S_FALSE, m_spStart->FindText(szText, 0, nullptr, nullptr));
+    EXPECT_EQ(S_FALSE, Find(L"one")) << "the first hit was behind the pointer";
+    EXPECT_THAT(m_pPage->GetTextsOf(L"FONT"), ElementsAre(L"one"));
+}
+
+TEST_P(PageBehaviour, LeavesBothPointersWhenNothingIsFound)
+{
+    Load(L"<p>one two</p>");
+    ASSERT_EQ(S_OK, Find(L"one"));
+    ASSERT_EQ(S_FALSE, Find(L"three"));
+    ASSERT_EQ(S_OK, Wrap(TAGID_FONT));
+    EXPECT_THAT(m_pPage->GetTextsOf(L"FONT"), ElementsAre(L"one"));
 }
 
 TEST_P(PageBehaviour, FindsTextOfAllScripts)
@@ -250,6 +322,17 @@ TEST_P(PageBehaviour, TakesAnElementIntoThePageOnce)
     EXPECT_THAT(m_pPage->GetTextsOf(L"FONT"), ElementsAre(L"one"));
 }
 
+TEST_P(PageBehaviour, PutsAnElementWhereASearchFoundNothingBefore)
+{
+    Load(L"<p id=\"first\">one</p><p>two</p>");
+    ASSERT_EQ(S_FALSE, Find(L"three"));
+    const ComPtr<IHTMLElement> spFirst = GetElementInBody(0);
+    ASSERT_EQ(S_OK, m_spStart->MoveAdjacentToElement(spFirst.Get(), ELEM_ADJ_AfterBegin));
+    ASSERT_EQ(S_OK, m_spEnd->MoveAdjacentToElement(spFirst.Get(), ELEM_ADJ_BeforeEnd));
+    ASSERT_EQ(S_OK, Wrap(TAGID_FONT));
+    EXPECT_THAT(m_pPage->GetTextsOf(L"FONT"), ElementsAre(L"one"));
+}
+
 TEST_P(PageBehaviour, RefusesPointersInTheWrongOrder)
 {
     Load(L"<p>one</p>");
@@ -310,4 +393,42 @@ TEST_P(PageBehaviour, HasNoFramesInAPlainPage)
     long nFrames = -1;
     EXPECT_EQ(S_OK, spFrames->get_length(&nFrames));
     EXPECT_EQ(0, nFrames);
+}
+
+TEST_P(PageBehaviour, GivesTheDocumentsOfItsFramesInOrder)
+{
+    LoadWithFrames({L"one", L"two"});
+    ComPtr<IHTMLFramesCollection2> spFrames;
+    ASSERT_EQ(S_OK, m_spDocument->get_frames(&spFrames));
+    long nFrames = 0;
+    EXPECT_EQ(S_OK, spFrames->get_length(&nFrames));
+    EXPECT_EQ(2, nFrames);
+    ComPtr<IHTMLDocument2> spFirst;
+    ASSERT_EQ(S_OK, GetFrameDocument(0, &spFirst));
+    EXPECT_EQ(L"one", GetBodyText(spFirst.Get()));
+    ComPtr<IHTMLDocument2> spSecond;
+    ASSERT_EQ(S_OK, GetFrameDocument(1, &spSecond));
+    EXPECT_EQ(L"two", GetBodyText(spSecond.Get()));
+}
+
+TEST_P(PageBehaviour, DeniesTheDocumentOfAFrameOfAnotherOrigin)
+{
+    LoadWithFrames({L"one", L"foreign", L"three"}, 1);
+    ComPtr<IHTMLDocument2> spForeign;
+    EXPECT_EQ(E_ACCESSDENIED, GetFrameDocument(1, &spForeign));
+    EXPECT_FALSE(spForeign);
+    ComPtr<IHTMLDocument2> spBehind;
+    ASSERT_EQ(S_OK, GetFrameDocument(2, &spBehind));
+    EXPECT_EQ(L"three", GetBodyText(spBehind.Get()));
+}
+
+TEST_P(PageBehaviour, HasNoFrameBehindTheLast)
+{
+    LoadWithFrames({L"one"});
+    for (const long nIndex : {1L, 100L, -1L})
+    {
+        _variant_t vFrame;
+        EXPECT_EQ(DISP_E_MEMBERNOTFOUND, GetFrame(nIndex, &vFrame)) << nIndex;
+        EXPECT_EQ(VT_EMPTY, vFrame.vt);
+    }
 }

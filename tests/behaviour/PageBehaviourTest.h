@@ -15,6 +15,14 @@ protected:
     /// keeps both inside what is put around them.
     void Load(const std::wstring& strSource);
 
+    /// Loads a page with frames. Its document alone is there for the test.
+    void LoadWithFrames(const std::vector<std::wstring>& sources, std::optional<size_t> nForeign = {});
+
+    /// Asks for the n-th frame of the page.
+    HRESULT GetFrame(long nIndex, VARIANT* pvFrame);
+    /// Asks for the document of the n-th frame.
+    HRESULT GetFrameDocument(long nIndex, IHTMLDocument2** ppDocument);
+
     Microsoft::WRL::ComPtr<IHTMLElement> GetBody();
     Microsoft::WRL::ComPtr<IHTMLElement> GetElementInBody(long nIndex);
     Microsoft::WRL::ComPtr<IHTMLElement> MakeElement(ELEMENT_TAG_ID eTag, std::wstring strAttributes);

@@ -6,6 +6,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <ostream>
 #include <string>
 #include <vector>
@@ -18,6 +19,9 @@ public:
 
     /// Loads a page; the source is that of a BODY or FRAMESET, or of a body's content.
     virtual Microsoft::WRL::ComPtr<IHTMLDocument2> Load(const std::wstring& strSource) = 0;
+    /// Loads a page that has a frame for each of the sources. One of them may be of another origin.
+    virtual Microsoft::WRL::ComPtr<IHTMLDocument2> LoadWithFrames(const std::vector<std::wstring>& sources,
+                                                                  std::optional<size_t> nForeign = {}) = 0;
 
     // What the page itself says, not through the interfaces that are tested:
 

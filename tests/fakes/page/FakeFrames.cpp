@@ -31,7 +31,7 @@ STDMETHODIMP CFakeFramesCollection::item(VARIANT* pvIndex, VARIANT* pvWindow)
     VariantInit(pvWindow);
     return Call("item", [&]() -> HRESULT {
         if (pvIndex->vt != VT_I4 || pvIndex->lVal < 0 || static_cast<size_t>(pvIndex->lVal) >= m_windows.size())
-            return E_INVALIDARG;
+            return DISP_E_MEMBERNOTFOUND;
         pvWindow->vt = VT_DISPATCH;
         pvWindow->pdispVal = m_windows[pvIndex->lVal].Get();
         if (pvWindow->pdispVal != nullptr)

@@ -31,7 +31,7 @@ STDMETHODIMP CFakeMarkupPointer::Gravity(POINTER_GRAVITY* peGravity)
 
 STDMETHODIMP CFakeMarkupPointer::SetGravity(POINTER_GRAVITY eGravity)
 {
-    return Call("SetGravity", [&] {
+    return Call(eGravity == POINTER_GRAVITY_Right ? "SetGravityRight" : "SetGravityLeft", [&] {
         m_gap.bKeepsRight = eGravity == POINTER_GRAVITY_Right;
         return S_OK;
     });

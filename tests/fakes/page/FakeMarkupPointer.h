@@ -22,6 +22,7 @@ public:
     ~CFakeMarkupPointer() { m_spMarkup->Drop(m_gap); }
 
     STDMETHODIMP Gravity(POINTER_GRAVITY* peGravity) override;
+    /// In the log the side stands behind the name.
     STDMETHODIMP SetGravity(POINTER_GRAVITY eGravity) override;
     STDMETHODIMP IsPositioned(BOOL* pbPositioned) override;
     STDMETHODIMP MoveAdjacentToElement(IHTMLElement* pElement, ELEMENT_ADJACENCY eAdjacency) override;

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cwctype>
 
 namespace
 {
@@ -15,15 +16,36 @@ bool IsOneOf(const std::array<std::wstring_view, nTags>& tags, std::wstring_view
 
 bool EndsWord(const CMarkupElement& element)
 {
-    static constexpr std::array<std::wstring_view, 13> blocks = {
-        L"ADDRESS", L"BODY", L"BR", L"DIV", L"H1", L"H2", L"HR", L"LI", L"P", L"PRE", L"TABLE", L"TD", L"UL"};
-    return IsOneOf(blocks, element.strTag);
+    static constexpr std::array<std::wstring_view, 22> words = {
+        L"ADDRESS", L"BODY", L"BR", L"DIV", L"H1", L"H2",  L"H3",     L"H4",    L"H5", L"H6",       L"HR",
+        L"IFRAME",  L"IMG",  L"LI", L"OL",  L"P",  L"PRE", L"SELECT", L"TABLE", L"TD", L"TEXTAREA", L"UL"};
+    return IsOneOf(words, element.strTag);
 }
 
 bool IsHidden(const CMarkupElement& element)
 {
-    static constexpr std::array<std::wstring_view, 4> hidden = {L"HEAD", L"SCRIPT", L"STYLE", L"TITLE"};
+    static constexpr std::array<std::wstring_view, 6> hidden = {L"HEAD",  L"SCRIPT", L"SELECT",
+                                                                L"STYLE", L"TITLE",  L"TEXTAREA"};
     return IsOneOf(hidden, element.strTag);
+}
+
+constexpr wchar_t NoBreakSpace = 0xA0;
+
+bool IsBlank(wchar_t ch)
+{
+    return iswspace(ch) || ch == NoBreakSpace;
+}
+
+/// The text in small letters, any blanks in a row as one.
+std::wstring MakePattern(std::wstring_view strText)
+{
+    std::wstring strPattern;
+    for (const wchar_t ch : strText)
+        if (!IsBlank(ch))
+            strPattern += FoldCase(ch);
+        else if (!strPattern.ends_with(L' '))
+            strPattern += L' ';
+    return strPattern;
 }
 } // namespace
 
@@ -34,9 +56,13 @@ public:
     CCursor(MarkupPosition piece, MarkupPosition end) : m_piece(piece), m_end(end) { Settle(); }
 
     bool IsAtEnd() const { return m_piece == m_end; }
+    /// A blank stands for any.
     bool Is(wchar_t chFolded) const
     {
-        return m_piece->spElement == nullptr && FoldCase(m_piece->strText[m_nOffset]) == chFolded;
+        if (m_piece->spElement != nullptr)
+            return false;
+        const wchar_t ch = m_piece->strText[m_nOffset];
+        return chFolded == L' ' ? IsBlank(ch) : FoldCase(ch) == chFolded;
     }
     void Advance()
     {
@@ -109,10 +135,10 @@ void CPageMarkup::MoveGaps(MarkupPosition place, MarkupPosition inserted)
 std::optional<std::pair<MarkupPosition, MarkupPosition>> CPageMarkup::Find(std::wstring_view strText,
                                                                            MarkupPosition start)
 {
-    const std::wstring strFolded = FoldCase(strText);
+    const std::wstring strPattern = MakePattern(strText);
     for (CCursor cursor(start, m_pieces.end()); !cursor.IsAtEnd(); cursor.Advance())
     {
-        const auto last = Match(cursor, strFolded);
+        const auto last = Match(cursor, strPattern);
         if (!last)
             continue;
         // In this order: what stands before a split keeps its place.
@@ -122,13 +148,21 @@ std::optional<std::pair<MarkupPosition, MarkupPosition>> CPageMarkup::Find(std::
     return std::nullopt;
 }
 
-/// The text's last character when the folded text stands at the cursor.
-std::optional<CPageMarkup::CCursor> CPageMarkup::Match(CCursor cursor, std::wstring_view strText)
+/// The last character of what matches the pattern at the cursor.
+std::optional<CPageMarkup::CCursor> CPageMarkup::Match(CCursor cursor, std::wstring_view strPattern)
 {
-    for (size_t n = 0; !cursor.IsAtEnd() && cursor.Is(strText[n]); cursor.Advance())
-        if (++n == strText.size())
-            return cursor;
-    return std::nullopt;
+    std::optional<CCursor> last;
+    for (const wchar_t ch : strPattern)
+    {
+        if (cursor.IsAtEnd() || !cursor.Is(ch))
+            return std::nullopt;
+        do
+        {
+            last = cursor;
+            cursor.Advance();
+        } while (ch == L' ' && !cursor.IsAtEnd() && cursor.Is(ch));
+    }
+    return last;
 }
 
 /// The piece that begins at the offset.

@@ -65,8 +65,9 @@ public:
     /// Puts the element, which must not stand in the page, around all that is between two places.
     void Insert(const std::shared_ptr<CMarkupElement>& spElement, MarkupPosition start, MarkupPosition end);
 
-    /// The first hit behind a place: directly before its first character, directly behind its last. Case is ignored;
-    /// the text may run through inline elements but not out of a block. What a reader doesn't see is left out.
+    /// The first hit behind a place: directly before its first character, directly behind its last. Case is ignored,
+    /// and blanks match any; the text may run through inline elements but not out of a block. What a reader doesn't see
+    /// is left out.
     std::optional<std::pair<MarkupPosition, MarkupPosition>> Find(std::wstring_view strText, MarkupPosition start);
 
     /// The n-th element that begins between two places, or null.
@@ -84,7 +85,7 @@ public:
 private:
     class CCursor;
 
-    std::optional<CCursor> Match(CCursor cursor, std::wstring_view strText);
+    std::optional<CCursor> Match(CCursor cursor, std::wstring_view strPattern);
     MarkupPosition Split(MarkupPosition piece, size_t nOffset);
     void MoveGaps(MarkupPosition place, MarkupPosition inserted);
 

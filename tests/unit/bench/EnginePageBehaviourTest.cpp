@@ -12,6 +12,19 @@ public:
         return m_page.LoadSource(ToUtf8(strSource));
     }
 
+    Microsoft::WRL::ComPtr<IHTMLDocument2> LoadWithFrames(const std::vector<std::wstring>& sources,
+                                                          std::optional<size_t> nForeign) override
+    {
+        std::string page = "text";
+        for (size_t n = 0; n < sources.size(); ++n)
+        {
+            const std::wstring path = L"/frame" + std::to_wstring(n) + L".html";
+            m_page.Serve(ToUtf8(path), ToUtf8(sources[n]));
+            page += "<iframe src=\"" + ToUtf8(n == nForeign ? m_page.ForeignUrlOf(path) : path) + "\"></iframe>";
+        }
+        return m_page.LoadSource(page);
+    }
+
     std::wstring GetText() override { return m_page.GetScriptText(L"document.body.textContent.trim()"); }
     std::vector<std::wstring> GetTextsOf(const std::wstring& strTag) override
     {

@@ -27,12 +27,10 @@ protected:
         GetItem(Box).TakeFocus();
     }
 
-    COMBOBOXINFO GetInfo()
+    /// The control's word of a change of its selection.
+    void Notify(WORD wCode)
     {
-        COMBOBOXINFO info = {};
-        info.cbSize = sizeof info;
-        EXPECT_TRUE(GetComboBoxInfo(GetBox(Box), &info));
-        return info;
+        SendMessageW(GetBandWindow(), WM_COMMAND, MAKEWPARAM(Box, wCode), reinterpret_cast<LPARAM>(GetBox(Box)));
     }
 
     /// Presses and releases a key in the edit field, through the band as the browser does it.
@@ -41,30 +39,6 @@ protected:
         PressKey(Box, nKey);
         PumpMessages();
     }
-
-    static void Click(HWND hWnd, POINT point)
-    {
-        const LPARAM lParam = MAKELPARAM(point.x, point.y);
-        SendMessageW(hWnd, WM_MOUSEMOVE, 0, lParam);
-        SendMessageW(hWnd, WM_LBUTTONDOWN, MK_LBUTTON, lParam);
-        SendMessageW(hWnd, WM_LBUTTONUP, 0, lParam);
-    }
-
-    void ClickArrow()
-    {
-        const RECT rect = GetInfo().rcButton;
-        Click(GetBox(Box), {(rect.left + rect.right) / 2, (rect.top + rect.bottom) / 2});
-    }
-
-    void ClickEntry(int nEntry)
-    {
-        const HWND hWndList = GetInfo().hwndList;
-        RECT rect = {};
-        SendMessageW(hWndList, LB_GETITEMRECT, nEntry, reinterpret_cast<LPARAM>(&rect));
-        Click(hWndList, {(rect.left + rect.right) / 2, (rect.top + rect.bottom) / 2});
-    }
-
-    bool IsDropped() { return SendMessageW(GetBox(Box), CB_GETDROPPEDSTATE, 0, 0) != 0; }
 
     std::vector<std::wstring> TakeSearches()
     {
@@ -80,18 +54,18 @@ protected:
 TEST_F(BoxList, SearchesOnceByTheEntryAndOnceByTheFieldWhenAnEntryIsClicked)
 {
     SetWindowTextW(GetBox(Box), L"typed");
-    ClickArrow();
-    ASSERT_TRUE(IsDropped());
-    ClickEntry(0);
-    EXPECT_FALSE(IsDropped());
-    EXPECT_THAT(TakeSearches(), testing::UnorderedElementsAre(L"first", L"typed"));
+    ClickArrow(Box);
+    ASSERT_TRUE(IsDropped(Box));
+    ClickEntry(Box, 0);
+    EXPECT_FALSE(IsDropped(Box));
+    EXPECT_THAT(TakeSearches(), ElementsAre(L"typed", L"first"));
     EXPECT_EQ(L"first", GetBoxText(Box));
 }
 
 TEST_F(BoxList, SearchesOnceWhenTheLastEntryIsClicked)
 {
-    ClickArrow();
-    ClickEntry(2);
+    ClickArrow(Box);
+    ClickEntry(Box, 2);
     EXPECT_THAT(TakeSearches(), ElementsAre(L"last"));
 }
 
@@ -113,9 +87,9 @@ TEST_F(BoxList, SearchesAtEachStepOfAnArrowKey)
 TEST_F(BoxList, OpensByF4AndSearchesForNothingWhenItClosesWithoutASelection)
 {
     Key(VK_F4);
-    ASSERT_TRUE(IsDropped());
+    ASSERT_TRUE(IsDropped(Box));
     Key(VK_ESCAPE);
-    EXPECT_FALSE(IsDropped());
+    EXPECT_FALSE(IsDropped(Box));
     EXPECT_THAT(TakeSearches(), IsEmpty());
 }
 
@@ -137,9 +111,33 @@ TEST_F(BoxList, SearchesForTheTypedTextOnEnter)
 
 TEST_F(BoxList, SearchesOnceByAnEntryOfAnEmptyField)
 {
-    ClickArrow();
-    ClickEntry(1);
+    ClickArrow(Box);
+    ClickEntry(Box, 1);
     EXPECT_THAT(TakeSearches(), ElementsAre(L"second"));
+}
+
+TEST_F(BoxList, SearchesForNothingWithoutASelection)
+{
+    SetWindowTextW(GetBox(Box), L"typed");
+    SendMessageW(GetBox(Box), CB_SETCURSEL, static_cast<WPARAM>(-1), 0);
+    Notify(CBN_SELCHANGE);
+    EXPECT_THAT(TakeSearches(), IsEmpty());
+}
+
+TEST_F(BoxList, RunsTheFieldWhenTheSelectionEndsWithoutAnEntry)
+{
+    SendMessageW(GetBox(Box), CB_SETCURSEL, static_cast<WPARAM>(-1), 0);
+    SetWindowTextW(GetBox(Box), L"typed");
+    Notify(CBN_SELENDOK);
+    EXPECT_THAT(TakeSearches(), ElementsAre(L"typed"));
+}
+
+TEST_F(BoxList, RunsNothingWhenTheSelectionEndsInAnEmptyList)
+{
+    SendMessageW(GetBox(Box), CB_RESETCONTENT, 0, 0);
+    SetWindowTextW(GetBox(Box), L"typed");
+    Notify(CBN_SELENDOK);
+    EXPECT_THAT(TakeSearches(), IsEmpty());
 }
 
 TEST_F(BoxList, SurvivesThatASelectionMakesAllItemsAnew)
@@ -147,7 +145,7 @@ TEST_F(BoxList, SurvivesThatASelectionMakesAllItemsAnew)
     const HWND hWndBox = GetBox(Box);
     CFakeCalls::Get().ActIn("WebBrowser.Navigate", [&] { GetToolbar().LoadLayout(); });
     SendMessageW(hWndBox, CB_SETCURSEL, 0, 0);
-    SendMessageW(GetBandWindow(), WM_COMMAND, MAKEWPARAM(Box, CBN_SELCHANGE), reinterpret_cast<LPARAM>(hWndBox));
+    Notify(CBN_SELCHANGE);
     EXPECT_THAT(TakeSearches(), ElementsAre(L"first"));
     EXPECT_FALSE(IsWindow(hWndBox));
     EXPECT_EQ(L"Google Search (Alt+Q)", GetBoxText(Box));
@@ -158,8 +156,8 @@ TEST_F(BoxList, SurvivesThatAClickMakesAllItemsAnew)
     const HWND hWndBox = GetBox(Box);
     SetWindowTextW(hWndBox, L"typed");
     CFakeCalls::Get().ActIn("WebBrowser.Navigate", [&] { GetToolbar().LoadLayout(); });
-    ClickArrow();
-    ClickEntry(0);
+    ClickArrow(Box);
+    ClickEntry(Box, 0);
     EXPECT_FALSE(IsWindow(hWndBox));
     EXPECT_EQ(L"Google Search (Alt+Q)", GetBoxText(Box));
 }

@@ -12,6 +12,17 @@ public:
         return m_spDocument.Get();
     }
 
+    Microsoft::WRL::ComPtr<IHTMLDocument2> LoadWithFrames(const std::vector<std::wstring>& sources,
+                                                          std::optional<size_t> nForeign) override
+    {
+        Load(L"text");
+        for (const std::wstring& strSource : sources)
+            m_spDocument->AddFrame(MakeFake<CFakeHtmlDocument>(strSource).Get());
+        if (nForeign)
+            m_spDocument->m_windows[*nForeign]->Deny();
+        return m_spDocument.Get();
+    }
+
     std::wstring GetText() override { return m_spDocument->GetText(); }
     std::vector<std::wstring> GetTextsOf(const std::wstring& strTag) override
     {

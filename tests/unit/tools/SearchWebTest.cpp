@@ -243,74 +243,6 @@ TEST_F(SearchWebBox, SurvivesThatASearchMakesAllItemsAnew)
     EXPECT_FALSE(GetItem(Box).HasFocus());
 }
 
-TEST_F(SearchWebBox, TakesEnterOfAnyMessageAndClearsTheKey)
-{
-    Type(Box, L"word");
-    for (const UINT nMessage : {WM_KEYDOWN, WM_CHAR, WM_KEYUP, WM_SYSKEYDOWN})
-    {
-        MSG message = {GetEdit(), nMessage, VK_RETURN, 1, 0, {}};
-        EXPECT_EQ(S_OK, GetItem(Box).TranslateKey(&message));
-        EXPECT_EQ(0u, message.wParam);
-    }
-    EXPECT_EQ(4u, GetAddresses().size());
-}
-
-TEST_F(SearchWebBox, GetsTheKeysThatTheBrowserWouldTake)
-{
-    Type(Box, L"word");
-    SendMessageW(GetEdit(), EM_SETSEL, 4, 4);
-    EXPECT_EQ(S_OK, PressKey(Box, VK_BACK));
-    PumpMessages();
-    EXPECT_EQ(L"wor", GetBoxText(Box));
-}
-
-TEST_F(SearchWebBox, GetsTheCharactersOfItsKeys)
-{
-    Type(Box, L"");
-    EXPECT_EQ(S_OK, PressKey(Box, 'A'));
-    PumpMessages();
-    EXPECT_EQ(L"a", GetBoxText(Box));
-}
-
-TEST_F(SearchWebBox, MovesOnToTheNextItemByTab)
-{
-    GetItem(Box).TakeFocus();
-    EXPECT_EQ(S_OK, PressKey(Box, VK_TAB));
-    EXPECT_FALSE(GetItem(Box).HasFocus());
-    EXPECT_TRUE(GetItem(SearchInPageIndex).HasFocus());
-}
-
-TEST_F(SearchWebBox, LeavesTheFocusToTheHostWhenNoItemFollows)
-{
-    GetItem(SearchInPageIndex).TakeFocus();
-    EXPECT_EQ(S_FALSE, PressKey(SearchInPageIndex, VK_TAB));
-    EXPECT_TRUE(GetItem(SearchInPageIndex).HasFocus());
-}
-
-TEST_F(SearchWebBox, MovesBackByTabWithShift)
-{
-    BYTE keys[256] = {};
-    GetKeyboardState(keys);
-    keys[VK_SHIFT] = 0x80;
-    SetKeyboardState(keys);
-    GetItem(SearchInPageIndex).TakeFocus();
-    EXPECT_EQ(S_OK, PressKey(SearchInPageIndex, VK_TAB));
-    EXPECT_TRUE(GetItem(Box).HasFocus());
-    EXPECT_EQ(S_OK, PressKey(Box, VK_TAB));
-    EXPECT_TRUE(GetItem(ZoomIndex).HasFocus());
-    EXPECT_EQ(S_FALSE, PressKey(ZoomIndex, VK_TAB));
-    keys[VK_SHIFT] = 0;
-    SetKeyboardState(keys);
-}
-
-TEST_F(SearchWebBox, TakesOnlyThePressOfTabForAMove)
-{
-    GetItem(Box).TakeFocus();
-    MSG message = {GetEdit(), WM_KEYUP, VK_TAB, 1, 0, {}};
-    EXPECT_EQ(S_OK, GetItem(Box).TranslateKey(&message));
-    EXPECT_TRUE(GetItem(Box).HasFocus());
-}
-
 TEST_F(SearchWebBox, IsDrawnAgainWhileItIsVisible)
 {
     ValidateRect(GetEdit(), nullptr);
@@ -336,6 +268,19 @@ TEST(SearchWebItem, IsABoxOnASeparator)
     EXPECT_TRUE(item.HasControl());
     EXPECT_TRUE(item.IsFocusable());
     EXPECT_EQ(BTNS_SEP, item.GetTBButton().fsStyle);
+}
+
+TEST(SearchWebItem, KeepsTheWidthThatItsClassHasSet)
+{
+    class CNarrowItem : public CButtonSearchWeb
+    {
+    public:
+        CNarrowItem() { m_nControlWidth = 90; }
+        using CButtonSearchWeb::m_nControlWidth;
+    };
+    CNarrowItem item;
+    EXPECT_TRUE(item.Initialize(nullptr));
+    EXPECT_EQ(90, item.m_nControlWidth);
 }
 
 TEST(SearchWebItem, WorksWithoutAToolbar)

@@ -3,6 +3,25 @@
 #include "band/TrelvixWindow.h"
 #include "tools/ButtonSearchWeb.h"
 
+namespace
+{
+COMBOBOXINFO GetInfo(HWND hWndBox)
+{
+    COMBOBOXINFO info = {};
+    info.cbSize = sizeof info;
+    EXPECT_TRUE(GetComboBoxInfo(hWndBox, &info));
+    return info;
+}
+
+void ClickInto(HWND hWnd, const RECT& rect)
+{
+    const LPARAM lParam = MAKELPARAM((rect.left + rect.right) / 2, (rect.top + rect.bottom) / 2);
+    SendMessageW(hWnd, WM_MOUSEMOVE, 0, lParam);
+    SendMessageW(hWnd, WM_LBUTTONDOWN, MK_LBUTTON, lParam);
+    SendMessageW(hWnd, WM_LBUTTONUP, 0, lParam);
+}
+} // namespace
+
 void CToolbarTest::SetUp()
 {
     m_frame.Show();
@@ -72,6 +91,24 @@ void CToolbarTest::Enter(int nIndex, const std::wstring& strText)
 {
     Type(nIndex, strText);
     PressKey(nIndex, VK_RETURN);
+}
+
+void CToolbarTest::ClickArrow(int nIndex)
+{
+    ClickInto(GetBox(nIndex), GetInfo(GetBox(nIndex)).rcButton);
+}
+
+void CToolbarTest::ClickEntry(int nIndex, int nEntry)
+{
+    const HWND hWndList = GetInfo(GetBox(nIndex)).hwndList;
+    RECT rect = {};
+    SendMessageW(hWndList, LB_GETITEMRECT, nEntry, reinterpret_cast<LPARAM>(&rect));
+    ClickInto(hWndList, rect);
+}
+
+bool CToolbarTest::IsDropped(int nIndex)
+{
+    return SendMessageW(GetBox(nIndex), CB_GETDROPPEDSTATE, 0, 0) != 0;
 }
 
 std::wstring GetTextOf(HWND hWnd)

@@ -34,6 +34,12 @@ protected:
     /// Types a text and presses Enter.
     void Enter(int nIndex, const std::wstring& strText);
 
+    /// Clicks what opens the box's list.
+    void ClickArrow(int nIndex);
+    /// Clicks an entry of the open list.
+    void ClickEntry(int nIndex, int nEntry);
+    bool IsDropped(int nIndex);
+
     Microsoft::WRL::ComPtr<CFakeHtmlDocument> m_spPage;
 };
 

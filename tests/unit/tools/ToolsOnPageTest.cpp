@@ -7,9 +7,9 @@
 #include <gmock/gmock.h>
 
 using Microsoft::WRL::ComPtr;
-using testing::Each;
 using testing::ElementsAre;
 using testing::IsEmpty;
+using testing::SizeIs;
 
 namespace
 {
@@ -94,18 +94,25 @@ TEST_F(ToolsOnPage, HighlightMarksTheFramesOfAFrameset)
 TEST_F(ToolsOnPage, HighlightMarksTenThousandHits)
 {
     constexpr int nHits = 10000;
-    const auto spDocument = m_page.LoadSource(Repeat("<p>some text and a word in it", nHits));
+    const auto spDocument =
+        m_page.LoadSource(Repeat("<p>A line with a <i>wo</i>rd, or two words, and more text.</p>\n", nHits / 2));
     EXPECT_TRUE(HighlightFrames(L"word", spDocument.Get()));
-    const std::vector<std::wstring> marks = GetMarks();
-    EXPECT_EQ(static_cast<size_t>(nHits), marks.size());
-    EXPECT_THAT(marks, Each(L"word"));
+    EXPECT_THAT(GetMarks(), SizeIs(nHits + nHits / 2)) << "one of two is in two parts";
+    EXPECT_EQ(true, m_page.Run(L"Array.from(document.querySelectorAll('font'), (each) => "
+                               L"each.textContent).join('') === 'word'.repeat(10000)"));
+    EXPECT_EQ(true, m_page.Run(L"Array.from(document.querySelectorAll('p')).every((each) => each.textContent === 'A "
+                               L"line with a word, or two words, and more text.')"));
 }
 
-TEST_F(ToolsOnPage, HighlightFindsAWordOfFiveThousandCharacters)
+TEST_F(ToolsOnPage, HighlightFindsWordsOfAnyLength)
 {
-    const auto spDocument = m_page.LoadSource("<p>a" + Repeat("w", 5000) + "b</p>");
-    EXPECT_TRUE(HighlightFrames(std::wstring(5000, L'W'), spDocument.Get()));
-    EXPECT_THAT(GetMarks(), ElementsAre(std::wstring(5000, L'w')));
+    for (const int nLength : {1, 127, 128, 5000})
+    {
+        const std::wstring strWord(nLength, L'\x5B57');
+        const auto spDocument = m_page.LoadSource("<p>a" + ToUtf8(strWord) + "b</p>");
+        EXPECT_TRUE(HighlightFrames(strWord, spDocument.Get()));
+        EXPECT_THAT(GetMarks(), ElementsAre(strWord)) << nLength;
+    }
 }
 
 TEST_F(ToolsOnPage, HighlightLeavesAPageWithoutAHit)
@@ -159,4 +166,27 @@ TEST_F(ToolsOnPage, ZoomScalesATopLevelFrameset)
     EXPECT_EQ(L"1.5", m_page.GetScriptText(L"getComputedStyle(document.body).zoom"));
     EXPECT_EQ(0, GetNumber(L"document.querySelectorAll('#__hw__trelvix__zoom__').length"));
     EXPECT_NEAR(100, GetBoxWidth(L"frames[0].document"), 1.5);
+}
+
+TEST_F(ToolsOnPage, ZoomMakesASecondWrapperWhenAScriptDisplacesTheFirst)
+{
+    const auto spDocument = m_page.LoadSource("<div id=box style='width:100px'>text</div>");
+    EXPECT_TRUE(ZoomDocument(spDocument.Get(), 150, false));
+    m_page.Run(L"document.body.prepend(document.createElement('p'))");
+    EXPECT_TRUE(ZoomDocument(spDocument.Get(), 200, false));
+    EXPECT_EQ(1, GetNumber(L"document.querySelectorAll("
+                           L"'#__hw__trelvix__zoom__ > #__hw__trelvix__zoom__ #box').length"));
+    EXPECT_NEAR(300, GetBoxWidth(L"document"), 0.1) << "the factors multiply";
+}
+
+TEST_F(ToolsOnPage, ZoomLeavesAFramesetInAFrameAndScalesItsFrames)
+{
+    m_page.Serve("/inner.html", "<body><p>inner</p></body>");
+    m_page.Serve("/frames.html", "<frameset cols='*'><frame src=/inner.html></frameset>");
+    const auto spDocument = m_page.LoadSource("<body><iframe src=/frames.html></iframe></body>");
+    EXPECT_TRUE(ZoomDocument(spDocument.Get(), 150, false));
+    EXPECT_EQ(L"", m_page.GetScriptText(L"frames[0].document.body.style.zoom"));
+    EXPECT_EQ(0, GetNumber(L"frames[0].document.querySelectorAll('div').length"));
+    EXPECT_EQ(L"66%", m_page.GetScriptText(L"frames[0].frames[0].document.body.style.zoom"));
+    EXPECT_EQ(L"150%", m_page.GetScriptText(L"frames[0].frames[0].document.body.firstElementChild.style.zoom"));
 }

@@ -1,7 +1,7 @@
 #include "band/ButtonIndex.h"
 #include "band/TrelvixWindow.h"
 #include "tests/unit/tools/ToolbarFixture.h"
-#include "tools/ButtonSearchInPage.h"
+#include "tools/ButtonSearchWeb.h"
 
 #include <gmock/gmock.h>
 
@@ -31,6 +31,7 @@ std::wstring Repeat(const std::wstring& strText, int nTimes)
     return strRepeated;
 }
 
+/// What a search marks in a page and its frames.
 class Highlight : public CToolbarTest
 {
 protected:
@@ -43,14 +44,6 @@ protected:
     }
 };
 } // namespace
-
-TEST_F(Highlight, MarksTheWordOnEnter)
-{
-    ShowPage(L"<p>one two one</p>");
-    Enter(Box, L"one");
-    EXPECT_THAT(GetMarks(*m_spPage.Get()), ElementsAre(L"one", L"one"));
-    EXPECT_THAT(m_spBrowser->m_navigations, IsEmpty());
-}
 
 TEST_F(Highlight, MarksInBlackOnYellow)
 {
@@ -111,18 +104,6 @@ TEST_F(Highlight, MarksTenThousandHits)
     EXPECT_EQ(nHits, marks.size());
     EXPECT_EQ(nHits + 1, CFakeCalls::Get().CountOf("MarkupPointer.FindText"));
     EXPECT_EQ(nHits, CFakeCalls::Get().CountOf("MarkupPointer.MoveToPointer"));
-}
-
-TEST_F(Highlight, NestsASecondMarkInTheFirst)
-{
-    ShowPage(L"a word");
-    Enter(Box, L"word");
-    Enter(Box, L"word");
-    const auto fonts = m_spPage->GetMarkup()->GetElements(L"FONT");
-    ASSERT_EQ(2u, fonts.size());
-    EXPECT_EQ(std::next(fonts[0]->begin), fonts[1]->begin);
-    EXPECT_EQ(std::next(fonts[1]->end), fonts[0]->end);
-    EXPECT_THAT(GetEntries(Box), ElementsAre(L"word"));
 }
 
 TEST_F(Highlight, MarksWhatIsInAMarkAlready)
@@ -187,6 +168,18 @@ TEST_F(Highlight, StepsOverAFrameThatIsNone)
     EXPECT_THAT(GetMarks(*spBehind.Get()), ElementsAre(L"word"));
 }
 
+TEST_F(Highlight, StepsOverAFrameThatIsNoWindow)
+{
+    CFakeHtmlDocument& page = ShowPage(L"");
+    const auto spNone = MakeDocument(L"word");
+    const auto spBehind = MakeDocument(L"word");
+    page.AddFrame(spNone.Get()).Lack(IID_IHTMLWindow2);
+    page.AddFrame(spBehind.Get());
+    EXPECT_TRUE(GetItem(Box).Search(L"word"));
+    EXPECT_THAT(GetMarks(*spNone.Get()), IsEmpty());
+    EXPECT_THAT(GetMarks(*spBehind.Get()), ElementsAre(L"word"));
+}
+
 TEST_F(Highlight, GoesThroughDeepFrames)
 {
     std::vector<ComPtr<CFakeHtmlDocument>> documents = {&ShowPage(L"word")};
@@ -222,6 +215,21 @@ TEST_F(Highlight, EndsInADocumentWhereAMarkFailsAndGoesOnInTheNext)
     EXPECT_THAT(GetMarks(*spFrame.Get()), ElementsAre(L"word"));
 }
 
+TEST_F(Highlight, EndsAtTheFirstCallThatFails)
+{
+    CFakeCalls& calls = CFakeCalls::Get();
+    for (const char* pszCall : {"HtmlDocument.CreateElement", "HtmlDocument.InsertElement", "MarkupPointer.FindText"})
+    {
+        ShowPage(L"word word word");
+        calls.Reset();
+        calls.ActIn("MarkupPointer.MoveToPointer", [&] { calls.FailAll(pszCall, E_FAIL); });
+        EXPECT_TRUE(GetItem(Box).Search(L"word"));
+        EXPECT_THAT(GetMarks(*m_spPage.Get()), ElementsAre(L"word")) << pszCall;
+        EXPECT_EQ(2u, calls.CountOf("MarkupPointer.FindText")) << pszCall;
+        EXPECT_EQ(1u, calls.CountOf("MarkupPointer.MoveToPointer")) << pszCall;
+    }
+}
+
 TEST_F(Highlight, MakesItsCallsInOrder)
 {
     ShowPage(L"a word");
@@ -229,22 +237,11 @@ TEST_F(Highlight, MakesItsCallsInOrder)
     GetItem(Box).Search(L"word");
     EXPECT_THAT(CFakeCalls::Get().GetNames(),
                 ElementsAre("WebBrowser.get_Document", "HtmlDocument.CreateMarkupPointer",
-                            "HtmlDocument.CreateMarkupPointer", "MarkupPointer.SetGravity", "MarkupPointer.SetGravity",
-                            "MarkupPointer.MoveToContainer", "MarkupPointer.MoveToContainer", "MarkupPointer.FindText",
-                            "HtmlDocument.CreateElement", "HtmlDocument.InsertElement", "MarkupPointer.MoveToPointer",
-                            "MarkupPointer.FindText", "HtmlDocument.get_frames", "FramesCollection.get_length"));
-}
-
-TEST_F(Highlight, SurvivesThatItsItemGoesMeanwhile)
-{
-    for (const char* pszCall : {"WebBrowser.get_Document", "MarkupPointer.FindText", "FramesCollection.get_length"})
-    {
-        ShowPage(L"a word and a word");
-        Type(Box, L"word");
-        CFakeCalls::Get().ActIn(pszCall, [&] { GetToolbar().LoadLayout(); });
-        EXPECT_EQ(S_OK, PressKey(Box, VK_RETURN));
-        EXPECT_THAT(GetMarks(*m_spPage.Get()), ElementsAre(L"word", L"word")) << pszCall;
-    }
+                            "HtmlDocument.CreateMarkupPointer", "MarkupPointer.SetGravityRight",
+                            "MarkupPointer.SetGravityLeft", "MarkupPointer.MoveToContainer",
+                            "MarkupPointer.MoveToContainer", "MarkupPointer.FindText", "HtmlDocument.CreateElement",
+                            "HtmlDocument.InsertElement", "MarkupPointer.MoveToPointer", "MarkupPointer.FindText",
+                            "HtmlDocument.get_frames", "FramesCollection.get_length"));
 }
 
 TEST_F(Highlight, SurvivesThatThePageGoesMeanwhile)
@@ -253,75 +250,4 @@ TEST_F(Highlight, SurvivesThatThePageGoesMeanwhile)
     CFakeCalls::Get().ActIn("MarkupPointer.FindText", [&] { ShowPage(L"another word"); });
     EXPECT_TRUE(GetItem(Box).Search(L"word"));
     EXPECT_THAT(GetMarks(*m_spPage.Get()), IsEmpty());
-}
-
-TEST_F(Highlight, DoesNothingForAnEmptyBox)
-{
-    ShowPage(L"a word");
-    Enter(Box, L"");
-    EXPECT_FALSE(GetItem(Box).Search(L""));
-    EXPECT_THAT(GetEntries(Box), IsEmpty());
-    EXPECT_EQ(0u, CFakeCalls::Get().CountOf("WebBrowser.get_Document"));
-}
-
-TEST_F(Highlight, RemembersTheWordsNewestOnTopWithoutLimit)
-{
-    ShowPage(L"");
-    for (int n = 1; n <= 30; ++n)
-        Enter(Box, L"word" + std::to_wstring(n));
-    Enter(Box, L"WORD7");
-    const auto entries = GetEntries(Box);
-    ASSERT_EQ(30u, entries.size());
-    EXPECT_EQ(L"word30", entries.front());
-    EXPECT_EQ(L"word1", entries.back());
-}
-
-TEST_F(Highlight, ForgetsTheWordsWithTheItem)
-{
-    Enter(Box, L"word");
-    GetToolbar().LoadLayout();
-    EXPECT_THAT(GetEntries(Box), IsEmpty());
-    EXPECT_EQ(L"Highlight in page", GetBoxText(Box));
-}
-
-TEST_F(Highlight, RunsTwiceForAnEntryAndOnceForTheLast)
-{
-    Enter(Box, L"one");
-    Enter(Box, L"two");
-    ShowPage(L"one two");
-    for (const int nEntry : {0, 1})
-    {
-        SendMessageW(GetBox(Box), CB_SETCURSEL, nEntry, 0);
-        for (const WORD nCode : {CBN_SELENDOK, CBN_SELCHANGE})
-            SendMessageW(GetBandWindow(), WM_COMMAND, MAKEWPARAM(Box, nCode), reinterpret_cast<LPARAM>(GetBox(Box)));
-    }
-    EXPECT_THAT(GetMarks(*m_spPage.Get()), ElementsAre(L"one", L"two", L"two"));
-}
-
-TEST_F(Highlight, FailsWithoutAPageAndStillRemembersTheWord)
-{
-    m_spBrowser->m_spDocument.Reset();
-    EXPECT_FALSE(GetItem(Box).Search(L"null"));
-    m_spBrowser->m_spDocument = m_spBrowser->AsFrame();
-    EXPECT_FALSE(GetItem(Box).Search(L"no page"));
-    m_spBrowser->m_spDocument.Reset();
-    CFakeCalls::Get().FailAll("WebBrowser.get_Document", E_FAIL);
-    EXPECT_FALSE(GetItem(Box).Search(L"failure"));
-    EXPECT_THAT(GetEntries(Box), ElementsAre(L"failure", L"no page", L"null"));
-}
-
-TEST_F(Highlight, FailsWithoutABrowser)
-{
-    GetToolbar().SetWebBrowser(nullptr);
-    EXPECT_FALSE(GetItem(Box).Search(L"word"));
-    EXPECT_THAT(GetEntries(Box), ElementsAre(L"word"));
-    GetToolbar().SetWebBrowser(m_spBrowser.Get());
-}
-
-TEST(HighlightItem, FailsWithoutAToolbar)
-{
-    CButtonSearchInPage item;
-    EXPECT_TRUE(item.Initialize(nullptr));
-    EXPECT_EQ(SearchInPageIndex, item.GetButtonId());
-    EXPECT_FALSE(item.Search(L"word"));
 }

@@ -6,6 +6,7 @@
 #include "bench/protocol/Json.h"
 #include "bench/script/ScriptRunner.h"
 #include "bench/server/PageList.h"
+#include "framework/Module.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -38,9 +39,7 @@ CApplication::~CApplication()
 
 std::wstring CApplication::GetProgramFolder()
 {
-    std::wstring path(MAX_PATH, L'\0');
-    path.resize(GetModuleFileNameW(nullptr, path.data(), MAX_PATH));
-    const std::filesystem::path folder = std::filesystem::path(path).parent_path();
+    const std::filesystem::path folder = std::filesystem::path(AfxGetModulePath(nullptr)).parent_path();
     // The browsers of older versions stand in folders of their own beside the newest.
     return (std::filesystem::exists(folder / L"pages") ? folder : folder.parent_path()).wstring();
 }

@@ -28,9 +28,7 @@ HRESULT SetRights(const wchar_t* value, const wchar_t* rights)
 
 std::wstring GetProgramFolder()
 {
-    wchar_t szProgram[MAX_PATH] = {};
-    GetModuleFileNameW(AfxGetInstanceHandle(), szProgram, MAX_PATH);
-    const std::wstring program = szProgram;
+    const std::wstring program = AfxGetModulePath(AfxGetInstanceHandle());
     return program.substr(0, program.rfind(L'\\'));
 }
 

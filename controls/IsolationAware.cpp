@@ -2,11 +2,10 @@
 
 #include "controls/ModuleManifest.h"
 #include "framework/Handles.h"
+#include "framework/Lock.h"
 #include "framework/Module.h"
 
 #include <commctrl.h>
-
-#include <utility>
 
 namespace
 {
@@ -40,8 +39,8 @@ private:
     SRWLOCK m_lock = SRWLOCK_INIT;
     bool m_bReady = false;
     bool m_bCleanedUp = false;
-    bool m_bOwned = false;
     HANDLE m_hContext = nullptr; ///< null: the module has no manifest, and the calls go on without one
+    CUniqueActCtx m_madeContext; ///< the same one if it was made here
     CUniqueModule m_hCommonControls;
 };
 
@@ -49,7 +48,7 @@ CIsolationContext s_context;
 
 bool CIsolationContext::Prepare()
 {
-    AcquireSRWLockExclusive(&m_lock);
+    const CExclusiveLock lock(m_lock);
     if (m_bCleanedUp)
         OutputDebugStringW(L"IsolationAware function called after IsolationAwareCleanup\n");
     else if (!m_bReady && FindContext())
@@ -57,9 +56,7 @@ bool CIsolationContext::Prepare()
         m_bReady = true;
         LoadCommonControls();
     }
-    const bool bUsable = m_bReady || m_bCleanedUp;
-    ReleaseSRWLockExclusive(&m_lock);
-    return bUsable;
+    return m_bReady || m_bCleanedUp;
 }
 
 bool CIsolationContext::FindContext()
@@ -72,12 +69,9 @@ bool CIsolationContext::FindContext()
         m_hContext = information.hActCtx;
         return true;
     }
-    const HANDLE hContext = CreateModuleActCtx();
-    if (hContext == INVALID_HANDLE_VALUE)
-        return IsMissingManifest(GetLastError());
-    m_hContext = hContext;
-    m_bOwned = true;
-    return true;
+    m_madeContext = CreateModuleActCtx();
+    m_hContext = m_madeContext.get();
+    return m_hContext != nullptr || IsMissingManifest(GetLastError());
 }
 
 void CIsolationContext::LoadCommonControls()
@@ -97,10 +91,8 @@ void CIsolationContext::Cleanup()
     m_bCleanedUp = true;
     m_bReady = false;
     m_hCommonControls.reset();
-    const HANDLE hContext = std::exchange(m_hContext, nullptr);
-    if (m_bOwned)
-        ReleaseActCtx(hContext);
-    m_bOwned = false;
+    m_hContext = nullptr;
+    m_madeContext.reset();
 }
 
 /// Runs the call inside the context and keeps its error code over the deactivation.

@@ -2,15 +2,15 @@
 
 #include "framework/Module.h"
 
-HANDLE CreateModuleActCtx()
+CUniqueActCtx CreateModuleActCtx()
 {
-    wchar_t szPath[MAX_PATH] = {};
-    GetModuleFileNameW(AfxGetInstanceHandle(), szPath, MAX_PATH);
+    const std::wstring path = AfxGetModulePath(AfxGetInstanceHandle());
     ACTCTXW request = {};
     request.cbSize = sizeof request;
     request.dwFlags = ACTCTX_FLAG_RESOURCE_NAME_VALID | ACTCTX_FLAG_HMODULE_VALID;
-    request.lpSource = szPath;
+    request.lpSource = path.c_str();
     request.lpResourceName = MAKEINTRESOURCEW(ManifestResource);
     request.hModule = AfxGetInstanceHandle();
-    return CreateActCtxW(&request);
+    const HANDLE hContext = CreateActCtxW(&request);
+    return CUniqueActCtx(hContext == INVALID_HANDLE_VALUE ? nullptr : hContext);
 }

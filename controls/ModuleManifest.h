@@ -1,10 +1,13 @@
 #pragma once
 
+#include "framework/Handles.h"
+
 #include <windows.h>
 
 /// The resource in which a library's manifest stands.
 inline constexpr WORD ManifestResource = 2;
 
-/// An activation context of the module's own manifest, to be freed with ReleaseActCtx;
-/// INVALID_HANDLE_VALUE and the last error when the platform refuses.
-HANDLE CreateModuleActCtx();
+using CUniqueActCtx = CUniqueHandle<HANDLE, ReleaseActCtx>;
+
+/// An activation context of the module's own manifest; null and the last error when the platform refuses.
+CUniqueActCtx CreateModuleActCtx();

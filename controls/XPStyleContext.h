@@ -1,5 +1,7 @@
 #pragma once
 
+#include "controls/ModuleManifest.h"
+
 #include <windows.h>
 
 /// Brings the module's manifest, resource 2 of its file, into force for as long as the object lives, so that windows of
@@ -16,7 +18,7 @@ public:
     bool IsActive() const { return m_bActive; }
 
 private:
-    HANDLE m_hContext; ///< INVALID_HANDLE_VALUE when it could not be made
+    const CUniqueActCtx m_context; ///< empty when it could not be made
     ULONG_PTR m_nCookie = 0;
     bool m_bActive = false;
 };

@@ -1,4 +1,5 @@
 #include "framework/ComModule.h"
+#include "framework/GuidText.h"
 #include "framework/Module.h"
 #include "framework/Registrar.h"
 
@@ -13,13 +14,6 @@ using Microsoft::WRL::ComPtr;
 namespace
 {
 constexpr UINT TypeLibraryResource = 1;
-
-std::wstring GetModulePath()
-{
-    wchar_t szPath[MAX_PATH] = {};
-    GetModuleFileNameW(AfxGetInstanceHandle(), szPath, MAX_PATH);
-    return szPath;
-}
 
 HRESULT RegisterCategory(const CComClassEntry& entry, bool bRegister)
 {
@@ -37,7 +31,7 @@ HRESULT RegisterCategory(const CComClassEntry& entry, bool bRegister)
 
 HRESULT RegisterLibrary()
 {
-    const std::wstring path = GetModulePath();
+    const std::wstring path = AfxGetModulePath(AfxGetInstanceHandle());
     ComPtr<ITypeLib> spLibrary;
     const HRESULT hr = LoadTypeLibEx(path.c_str(), REGKIND_NONE, &spLibrary);
     return FAILED(hr) ? hr : RegisterTypeLib(spLibrary.Get(), const_cast<wchar_t*>(path.c_str()), nullptr);
@@ -57,9 +51,7 @@ HRESULT UnregisterLibrary(const GUID& libid)
 /// The registrar leaves a class key standing that holds keys which its script doesn't name.
 void DeleteClassKey(const CLSID& clsid)
 {
-    wchar_t szClsid[64] = {};
-    StringFromGUID2(clsid, szClsid, ARRAYSIZE(szClsid));
-    RegDeleteTreeW(HKEY_CLASSES_ROOT, (std::wstring(L"CLSID\\") + szClsid).c_str());
+    RegDeleteTreeW(HKEY_CLASSES_ROOT, (L"CLSID\\" + GetGuidText(clsid)).c_str());
 }
 } // namespace
 
@@ -91,7 +83,7 @@ HRESULT CComModule::UnregisterServer() const
 
 HRESULT CComModule::LoadTypeInfo(REFGUID guid, ITypeInfo** ppTypeInfo)
 {
-    const std::wstring path = GetModulePath() + L"\\" + std::to_wstring(TypeLibraryResource);
+    const std::wstring path = AfxGetModulePath(AfxGetInstanceHandle()) + L"\\" + std::to_wstring(TypeLibraryResource);
     ComPtr<ITypeLib> spLibrary;
     const HRESULT hr = LoadTypeLibEx(path.c_str(), REGKIND_NONE, &spLibrary);
     return FAILED(hr) ? hr : spLibrary->GetTypeInfoOfGuid(guid, ppTypeInfo);

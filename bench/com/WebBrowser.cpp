@@ -6,6 +6,7 @@
 #include "bench/com/FrameBrowser.h"
 #include "bench/com/Variants.h"
 #include "framework/ComBoundary.h"
+#include "framework/Module.h"
 
 #include <exdispid.h>
 #include <oleacc.h>
@@ -149,9 +150,7 @@ STDMETHODIMP CWebBrowser::get_Name(BSTR* pbstrName)
 
 STDMETHODIMP CWebBrowser::get_FullName(BSTR* pbstrPath)
 {
-    wchar_t path[MAX_PATH];
-    GetModuleFileNameW(nullptr, path, static_cast<DWORD>(std::size(path)));
-    return CopyText(path, pbstrPath);
+    return CopyText(AfxGetModulePath(nullptr), pbstrPath);
 }
 
 STDMETHODIMP CWebBrowser::PutProperty(BSTR bstrName, VARIANT vValue)

@@ -2,6 +2,7 @@
 
 #include "bench/protocol/Json.h"
 #include "framework/Handles.h"
+#include "framework/Module.h"
 
 #include <filesystem>
 
@@ -12,13 +13,6 @@ constexpr DWORD EndTimeoutMs = 5000;
 constexpr wchar_t ScriptName[] = L"launch-engine.sh";
 constexpr char FailedWord[] = "failed ";
 constexpr char PortWord[] = "port ";
-
-std::filesystem::path GetProgramPath()
-{
-    std::wstring path(32768, L'\0');
-    path.resize(GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size())));
-    return path;
-}
 } // namespace
 
 CScriptedEngine::~CScriptedEngine()
@@ -51,7 +45,7 @@ bool CScriptedEngine::Start(CEngineAddress& address, std::wstring& error)
 
 bool CScriptedEngine::RunScript(WORD wPort) const
 {
-    const std::wstring script = GetProgramPath().replace_filename(ScriptName);
+    const std::wstring script = std::filesystem::path(AfxGetModulePath(nullptr)).replace_filename(ScriptName);
     std::wstring commandLine = std::wstring(ScriptName) + L" " + std::to_wstring(wPort) + L" \"" + m_strProgram + L"\"";
     STARTUPINFOW startup = {};
     startup.cb = sizeof startup;

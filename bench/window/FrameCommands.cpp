@@ -3,6 +3,7 @@
 #include "bench/window/FrameWindow.h"
 #include "bench/window/RegisteredBands.h"
 #include "bench/window/TabWindow.h"
+#include "framework/GuidText.h"
 #include "framework/Handles.h"
 #include "framework/HostVersion.h"
 
@@ -15,13 +16,12 @@ namespace
 {
 std::wstring GetClassTitle(REFCLSID clsid)
 {
-    wchar_t szGuid[64] = {};
-    StringFromGUID2(clsid, szGuid, std::size(szGuid));
+    const std::wstring strGuid = GetGuidText(clsid);
     wchar_t szTitle[MAX_PATH] = {};
     DWORD dwBytes = sizeof szTitle;
-    const std::wstring key = std::wstring(L"CLSID\\") + szGuid;
+    const std::wstring key = L"CLSID\\" + strGuid;
     RegGetValueW(HKEY_CLASSES_ROOT, key.c_str(), nullptr, RRF_RT_REG_SZ, nullptr, szTitle, &dwBytes);
-    return szTitle[0] ? szTitle : szGuid;
+    return szTitle[0] ? szTitle : strGuid;
 }
 
 void ClearMenu(HMENU hMenu)

@@ -1,5 +1,6 @@
 #include "bench/window/RegisteredBands.h"
 
+#include "framework/GuidText.h"
 #include "framework/Handles.h"
 
 #include <shlguid.h>
@@ -11,14 +12,6 @@
 namespace
 {
 constexpr wchar_t ToolbarKey[] = L"Software\\Microsoft\\Internet Explorer\\Toolbar";
-constexpr int GuidChars = 39;
-
-std::wstring GetGuidText(REFGUID guid)
-{
-    wchar_t szGuid[GuidChars] = {};
-    StringFromGUID2(guid, szGuid, GuidChars);
-    return szGuid;
-}
 
 bool HasCategory(REFCLSID clsid, REFGUID category)
 {

@@ -1,6 +1,7 @@
 // The wrappers after the clean-up at unload, in a program of its own, since the clean-up is for good.
 
 #include "controls/IsolationAware.h"
+#include "framework/Handles.h"
 #include "tests/unit/controls/ActivationContext.h"
 
 #include <windows.h>
@@ -47,12 +48,11 @@ constexpr char Complaint[] = "IsolationAware function called after IsolationAwar
 
 TEST(IsolationAwareAfterItsCleanup, SaysSoAndGoesOn)
 {
-    FreeLibrary(IsolatedLoadLibrary(L"version.dll"));
+    CUniqueModule library(IsolatedLoadLibrary(L"version.dll"));
     IsolationAwareCleanup();
     const CDebugOutput output;
-    const HMODULE hModule = IsolatedLoadLibrary(L"version.dll");
-    EXPECT_NE(nullptr, hModule);
-    FreeLibrary(hModule);
+    library.reset(IsolatedLoadLibrary(L"version.dll"));
+    EXPECT_NE(nullptr, library);
     EXPECT_EQ(Complaint, g_strDebugOutput);
     EXPECT_EQ(nullptr, GetContextInForce());
     IsolationAwareCleanup();

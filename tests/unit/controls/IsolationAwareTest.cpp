@@ -1,5 +1,6 @@
 #include "controls/IsolationAware.h"
 
+#include "framework/Handles.h"
 #include "framework/Module.h"
 #include "tests/fakes/TestWindow.h"
 #include "tests/unit/controls/ActivationContext.h"
@@ -50,9 +51,8 @@ protected:
 
 TEST_F(IsolationAware, LoadsALibrary)
 {
-    const HMODULE hModule = IsolatedLoadLibrary(L"version.dll");
-    EXPECT_EQ(GetModuleHandleW(L"version.dll"), hModule);
-    FreeLibrary(hModule);
+    const CUniqueModule library(IsolatedLoadLibrary(L"version.dll"));
+    EXPECT_EQ(GetModuleHandleW(L"version.dll"), library.get());
 }
 
 TEST_F(IsolationAware, KeepsTheErrorOfALibraryThatIsNotThere)
@@ -105,13 +105,12 @@ TEST_F(IsolationAware, GivesNoThemeToWhatIsNoWindow)
 
 TEST_F(IsolationAware, KnowsWhetherAVisualStyleIsActive)
 {
-    const HMODULE hTheme = LoadLibraryW(L"uxtheme.dll");
-    ASSERT_NE(nullptr, hTheme);
+    const CUniqueModule theme(LoadLibraryW(L"uxtheme.dll"));
+    ASSERT_NE(nullptr, theme);
     const auto pfnIsThemeActive =
-        reinterpret_cast<BOOL(WINAPI*)()>(reinterpret_cast<void*>(GetProcAddress(hTheme, "IsThemeActive")));
+        reinterpret_cast<BOOL(WINAPI*)()>(reinterpret_cast<void*>(GetProcAddress(theme.get(), "IsThemeActive")));
     ASSERT_NE(nullptr, pfnIsThemeActive);
     EXPECT_EQ(pfnIsThemeActive() != FALSE, IsThemeActiveNow());
-    FreeLibrary(hTheme);
 }
 
 TEST_F(IsolationAware, ServesSeveralThreadsAtOnce)

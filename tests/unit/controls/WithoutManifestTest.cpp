@@ -2,6 +2,7 @@
 
 #include "controls/IsolationAware.h"
 #include "controls/XPStyleContext.h"
+#include "framework/Handles.h"
 #include "tests/unit/controls/ActivationContext.h"
 
 #include <gtest/gtest.h>
@@ -15,8 +16,7 @@ TEST(XPStyleContextWithoutAManifest, StaysInactive)
 
 TEST(IsolationAwareWithoutAManifest, GoesOnWithoutOne)
 {
-    const HMODULE hModule = IsolatedLoadLibrary(L"version.dll");
-    EXPECT_NE(nullptr, hModule);
-    FreeLibrary(hModule);
+    const CUniqueModule library(IsolatedLoadLibrary(L"version.dll"));
+    EXPECT_NE(nullptr, library);
     EXPECT_EQ(nullptr, GetContextInForce());
 }

@@ -1,6 +1,7 @@
 #include "framework/Registrar.h"
 
 #include "framework/Module.h"
+#include "framework/ReplaceAll.h"
 
 #include <objbase.h>
 #include <wrl/client.h>
@@ -29,15 +30,14 @@ constexpr IID RegistrarInterface = {0x44ec053b, 0x400f, 0x11d0, {0x9d, 0xcd, 0x0
 
 HRESULT RunRegistryScript(UINT nResource, bool bRegister)
 {
-    wchar_t szModule[MAX_PATH] = {};
-    GetModuleFileNameW(AfxGetInstanceHandle(), szModule, MAX_PATH);
+    const std::wstring module = AfxGetModulePath(AfxGetInstanceHandle());
     Microsoft::WRL::ComPtr<IRegistrar> spRegistrar;
     HRESULT hr = CoCreateInstance(RegistrarClass, nullptr, CLSCTX_INPROC_SERVER, RegistrarInterface,
                                   reinterpret_cast<void**>(spRegistrar.GetAddressOf()));
     if (SUCCEEDED(hr))
-        hr = spRegistrar->AddReplacement(L"MODULE", szModule);
+        hr = spRegistrar->AddReplacement(L"MODULE", ReplaceAll(module, L"'", L"''").c_str()); // scripts quote with '
     if (FAILED(hr))
         return hr;
-    return bRegister ? spRegistrar->ResourceRegister(szModule, nResource, L"REGISTRY")
-                     : spRegistrar->ResourceUnregister(szModule, nResource, L"REGISTRY");
+    return bRegister ? spRegistrar->ResourceRegister(module.c_str(), nResource, L"REGISTRY")
+                     : spRegistrar->ResourceUnregister(module.c_str(), nResource, L"REGISTRY");
 }

@@ -1,6 +1,7 @@
 // What the platform's own regsvr32 writes for the library, and what it leaves. Registered for the machine, so these
 // tests run in a Wine prefix of their own.
 
+#include "framework/Handles.h"
 #include "tests/system/BuiltFile.h"
 #include "tests/system/ChildProcess.h"
 #include "tests/system/RegistryDump.h"
@@ -10,6 +11,7 @@
 #include <gmock/gmock.h>
 
 #include <algorithm>
+#include <filesystem>
 #include <string>
 
 using testing::Contains;
@@ -37,21 +39,21 @@ std::wstring GetLibrary()
     return GetShippedFile(L"Trelvix.x64.dll").wstring();
 }
 
-DWORD RunRegsvr32(const std::wstring& strOptions)
+DWORD RunRegsvr32(const std::wstring& strOptions, const std::wstring& strLibrary)
 {
     wchar_t szFolder[MAX_PATH] = {};
     GetSystemDirectoryW(szFolder, MAX_PATH);
-    return RunProgram(std::wstring(szFolder) + L"\\regsvr32.exe", L"/s " + strOptions + L" \"" + GetLibrary() + L"\"");
+    return RunProgram(std::wstring(szFolder) + L"\\regsvr32.exe", L"/s " + strOptions + L" \"" + strLibrary + L"\"");
 }
 
 DWORD Register()
 {
-    return RunRegsvr32(L"");
+    return RunRegsvr32(L"", GetLibrary());
 }
 
 DWORD Unregister()
 {
-    return RunRegsvr32(L"/u");
+    return RunRegsvr32(L"/u", GetLibrary());
 }
 
 std::wstring Classes(const std::wstring& strPath)
@@ -217,14 +219,38 @@ public:
         HKEY hKey = nullptr;
         RegCreateKeyExW(HKEY_CURRENT_USER, L"Software\\TrelvixReadOnly", 0, nullptr, REG_OPTION_VOLATILE,
                         KEY_ALL_ACCESS, nullptr, &hKey, nullptr);
-        RegOverridePredefKey(HKEY_LOCAL_MACHINE, hKey);
-        RegCloseKey(hKey);
+        const CUniqueRegistryKey key(hKey);
+        RegOverridePredefKey(HKEY_LOCAL_MACHINE, key.get());
     }
     ~CReadOnlyMachine()
     {
         RegOverridePredefKey(HKEY_LOCAL_MACHINE, nullptr);
         RegDeleteTreeW(HKEY_CURRENT_USER, L"Software\\TrelvixReadOnly");
     }
+};
+
+/// A copy of the library in a folder of its own beside the built one.
+class CLibraryCopy
+{
+public:
+    explicit CLibraryCopy(const wchar_t* pszFolder)
+        : m_folder(std::filesystem::path(GetLibrary()).replace_filename(pszFolder))
+    {
+        std::filesystem::create_directory(m_folder);
+        std::filesystem::copy_file(GetLibrary(), GetPath(), std::filesystem::copy_options::overwrite_existing);
+    }
+    CLibraryCopy(const CLibraryCopy&) = delete;
+    CLibraryCopy& operator=(const CLibraryCopy&) = delete;
+    ~CLibraryCopy()
+    {
+        std::error_code ignored;
+        std::filesystem::remove_all(m_folder, ignored);
+    }
+
+    std::filesystem::path GetPath() const { return m_folder / L"Trelvix.x64.dll"; }
+
+private:
+    const std::filesystem::path m_folder;
 };
 
 /// Starts and ends with nothing registered. The browser's key is there from the beginning, as on a machine with a
@@ -236,7 +262,7 @@ protected:
     {
         HKEY hKey = nullptr;
         RegCreateKeyExW(HKEY_LOCAL_MACHINE, ToolbarKey, 0, nullptr, 0, KEY_WRITE, nullptr, &hKey, nullptr);
-        RegCloseKey(hKey);
+        const CUniqueRegistryKey key(hKey);
         Unregister();
     }
     ~Registration() override { Unregister(); }
@@ -286,6 +312,18 @@ TEST_F(Registration, TakesBackWhatOthersWroteBelowTheClassKeys)
         WriteText(HKEY_LOCAL_MACHINE, ClassKey(pszClass) + L"\\Left\\Over", L"old");
     EXPECT_EQ(0u, Unregister());
     EXPECT_EQ(before, DumpOwnKeys());
+}
+
+TEST_F(Registration, TellsThePathOfALibraryInAFolderWithAnApostrophe)
+{
+    const CLibraryCopy copy(L"it's");
+    EXPECT_EQ(0u, RunRegsvr32(L"", copy.GetPath()));
+    const CRegistryDump own = DumpOwnKeys();
+    for (const wchar_t* pszClass : {BandClass, HandlerClass})
+        EXPECT_THAT(own,
+                    Contains(Pair(ToLower(ClassKey(pszClass)) + L"\\inprocserver32\\@", copy.GetPath().wstring())));
+    EXPECT_EQ(0u, RunRegsvr32(L"/u", copy.GetPath()));
+    EXPECT_THAT(DumpOwnKeys(), Not(Contains(Key(ToLower(ClassKey(BandClass)) + L"\\"))));
 }
 
 TEST_F(Registration, LeavesTheOtherToolbarsOfTheBrowserAlone)

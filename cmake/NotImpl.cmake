@@ -7,23 +7,16 @@ set(NOTIMPL_INTERFACES
     ICustomDoc
     IDocHostUIHandler
     IHTMLBodyElement
-    IHTMLCurrentStyle
-    IHTMLDOMChildrenCollection
-    IHTMLDOMNode
     IHTMLDocument2
     IHTMLDocument3
-    IHTMLDocument4
     IHTMLDocument5
-    IHTMLDocument6
     IHTMLElement
     IHTMLElement2
     IHTMLElementCollection
     IHTMLEventObj
-    IHTMLFrameBase
     IHTMLFrameBase2
     IHTMLFrameSetElement
     IHTMLFramesCollection2
-    IHTMLLocation
     IHTMLStyle
     IHTMLStyle3
     IHTMLWindow2
@@ -32,12 +25,7 @@ set(NOTIMPL_INTERFACES
     IMarkupServices
     IOleClientSite
     IOleContainer
-    IOleInPlaceFrame
-    IOleInPlaceSite
     IOleObject
-    IOmNavigator
-    IPersistStreamInit
-    IViewObject
     IWebBrowser2)
 
 set(NOTIMPL_HEADERS oaidl.h objidl.h oleidl.h ocidl.h docobj.h exdisp.h mshtml.h mshtmhst.h)

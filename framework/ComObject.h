@@ -24,11 +24,6 @@ public:
     CComObjectRoot(const CComObjectRoot&) = delete;
     CComObjectRoot& operator=(const CComObjectRoot&) = delete;
 
-    /// Called once after construction; a failure makes the creation fail.
-    HRESULT FinalConstruct() { return S_OK; }
-    /// Called once before destruction, while all bases are whole.
-    void FinalRelease() {}
-
 protected:
     ~CComObjectRoot() = default;
 
@@ -76,11 +71,7 @@ class CComObject final : public Base
 {
 public:
     CComObject() { GetModule().Lock(); }
-    ~CComObject()
-    {
-        this->FinalRelease();
-        GetModule().Unlock();
-    }
+    ~CComObject() { GetModule().Unlock(); }
 
     STDMETHODIMP QueryInterface(REFIID iid, void** ppv) override
     {
@@ -108,7 +99,7 @@ class CComContainedObject final : public Base
 {
 public:
     explicit CComContainedObject(IUnknown* pOuter) : m_pOuter(pOuter) {}
-    ~CComContainedObject() { this->FinalRelease(); }
+    ~CComContainedObject() = default;
 
     STDMETHODIMP QueryInterface(REFIID iid, void** ppv) override { return m_pOuter->QueryInterface(iid, ppv); }
     STDMETHODIMP_(ULONG) AddRef() override { return m_pOuter->AddRef(); }
@@ -154,24 +145,20 @@ public:
     /// Creates the inner object and gives its own IUnknown, the only interface that an aggregate may ask for.
     static HRESULT CreateInstance(IUnknown* pOuter, REFIID iid, void** ppv);
 
-    CComContainedObject<Base>& GetContained() { return m_contained; }
-
 private:
     CComContainedObject<Base> m_contained;
 };
 
 namespace AfxCom
 {
-/// Finishes a new object that nobody holds yet: one reference during the construction, gone at the end.
-template <class Object, class Class>
-HRESULT FinishCreation(Object* pObject, Class* pClass, REFIID iid, void** ppv)
+/// Hands out a new object that nobody holds yet, which goes again when it lacks the interface.
+template <class Object>
+HRESULT FinishCreation(Object* pObject, REFIID iid, void** ppv)
 {
     if (pObject == nullptr)
         return E_OUTOFMEMORY;
     pObject->AddRef();
-    HRESULT hr = pClass->FinalConstruct();
-    if (SUCCEEDED(hr))
-        hr = pObject->QueryInterface(iid, ppv);
+    const HRESULT hr = pObject->QueryInterface(iid, ppv);
     pObject->Release();
     return hr;
 }
@@ -181,16 +168,14 @@ template <class Base>
 HRESULT CComObject<Base>::CreateInstance(REFIID iid, void** ppv)
 {
     *ppv = nullptr;
-    auto* pObject = new (std::nothrow) CComObject<Base>;
-    return AfxCom::FinishCreation(pObject, pObject, iid, ppv);
+    return AfxCom::FinishCreation(new (std::nothrow) CComObject<Base>, iid, ppv);
 }
 
 template <class Base>
 HRESULT CComAggObject<Base>::CreateInstance(IUnknown* pOuter, REFIID iid, void** ppv)
 {
     *ppv = nullptr;
-    auto* pObject = new (std::nothrow) CComAggObject<Base>(pOuter);
-    return AfxCom::FinishCreation(pObject, pObject ? &pObject->GetContained() : nullptr, iid, ppv);
+    return AfxCom::FinishCreation(new (std::nothrow) CComAggObject<Base>(pOuter), iid, ppv);
 }
 
 /// Creates a class plainly or aggregated, as class factories do. An aggregate may only ask for IUnknown.

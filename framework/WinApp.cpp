@@ -1,20 +1,5 @@
 #include "framework/WinApp.h"
 
-namespace
-{
-CWinApp* s_pApp = nullptr;
-}
-
-CWinApp::CWinApp()
-{
-    s_pApp = this;
-}
-
-CWinApp::~CWinApp()
-{
-    s_pApp = nullptr;
-}
-
 bool CWinApp::InitInstance()
 {
     return true;
@@ -23,9 +8,4 @@ bool CWinApp::InitInstance()
 int CWinApp::ExitInstance()
 {
     return 0;
-}
-
-CWinApp* AfxGetApp()
-{
-    return s_pApp;
 }

@@ -4,10 +4,10 @@
 class CWinApp
 {
 public:
-    CWinApp();
+    CWinApp() = default;
     CWinApp(const CWinApp&) = delete;
     CWinApp& operator=(const CWinApp&) = delete;
-    virtual ~CWinApp();
+    virtual ~CWinApp() = default;
 
     /// False refuses the start; a library is then not loaded.
     virtual bool InitInstance();
@@ -15,6 +15,3 @@ public:
     /// The last call, also after a refused start.
     virtual int ExitInstance();
 };
-
-/// The module's application object, or null when it has none.
-CWinApp* AfxGetApp();

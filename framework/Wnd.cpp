@@ -1,5 +1,6 @@
 #include "framework/Wnd.h"
 
+#include "framework/Lock.h"
 #include "framework/Module.h"
 
 #include <map>
@@ -24,30 +25,6 @@ public:
     }
 
     ~CPlainWindowClass() { UnregisterClassW(PlainClassName, AfxGetInstanceHandle()); }
-};
-
-class CSharedLock
-{
-public:
-    explicit CSharedLock(SRWLOCK& lock) : m_lock(lock) { AcquireSRWLockShared(&m_lock); }
-    ~CSharedLock() { ReleaseSRWLockShared(&m_lock); }
-    CSharedLock(const CSharedLock&) = delete;
-    CSharedLock& operator=(const CSharedLock&) = delete;
-
-private:
-    SRWLOCK& m_lock;
-};
-
-class CExclusiveLock
-{
-public:
-    explicit CExclusiveLock(SRWLOCK& lock) : m_lock(lock) { AcquireSRWLockExclusive(&m_lock); }
-    ~CExclusiveLock() { ReleaseSRWLockExclusive(&m_lock); }
-    CExclusiveLock(const CExclusiveLock&) = delete;
-    CExclusiveLock& operator=(const CExclusiveLock&) = delete;
-
-private:
-    SRWLOCK& m_lock;
 };
 
 /// The windows of all threads that have an object attached.
@@ -267,8 +244,6 @@ LRESULT CWnd::Default()
     return lResult;
 }
 
-void CWnd::PostNcDestroy() {}
-
 LRESULT CALLBACK CWnd::AfxWndProc(HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam)
 {
     CWnd* const pWnd = FromHandlePermanent(hWnd);
@@ -291,7 +266,5 @@ LRESULT CWnd::OnNcDestroy(WPARAM wParam, LPARAM lParam)
 {
     const WNDPROC pfnSuper = m_pfnSuper;
     const HWND hWnd = UnsubclassWindow();
-    const LRESULT lResult = CallWindowProcW(pfnSuper, hWnd, WM_NCDESTROY, wParam, lParam);
-    PostNcDestroy();
-    return lResult;
+    return CallWindowProcW(pfnSuper, hWnd, WM_NCDESTROY, wParam, lParam);
 }

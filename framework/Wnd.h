@@ -60,9 +60,6 @@ protected:
     /// Default handling of the message under way, with its own arguments.
     LRESULT Default();
 
-    /// The last call for the object from its window; the object may delete itself here.
-    virtual void PostNcDestroy();
-
 private:
     class CMessageScope;
 

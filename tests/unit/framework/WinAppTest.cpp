@@ -2,16 +2,6 @@
 
 #include <gtest/gtest.h>
 
-TEST(WinApp, IsFoundAsTheModulesOneApplicationWhileItLives)
-{
-    EXPECT_EQ(nullptr, AfxGetApp());
-    {
-        CWinApp app;
-        EXPECT_EQ(&app, AfxGetApp());
-    }
-    EXPECT_EQ(nullptr, AfxGetApp());
-}
-
 TEST(WinApp, StartsAndEndsQuietlyUnlessAClassSaysOtherwise)
 {
     CWinApp app;

@@ -13,19 +13,10 @@ namespace
 {
 constexpr RECT SmallRect = {10, 20, 110, 70};
 
-class CWatchedWnd : public CWnd
+class CChildWnd : public CWnd
 {
 public:
     bool CreateChildOf(HWND hWndParent) { return CreateEx(0, nullptr, nullptr, WS_CHILD, SmallRect, hWndParent, 7); }
-
-    bool* m_pbLastCallCame = nullptr;
-
-protected:
-    void PostNcDestroy() override
-    {
-        if (m_pbLastCallCame != nullptr)
-            *m_pbLastCallCame = m_hWnd == nullptr;
-    }
 };
 
 std::wstring GetClassOf(HWND hWnd)
@@ -44,7 +35,7 @@ WNDPROC GetProcedureOf(HWND hWnd)
 TEST(Wnd, CreatesTheWindowWithTheGivenPlaceParentAndNumber)
 {
     const CTestWindow parent;
-    CWatchedWnd wnd;
+    CChildWnd wnd;
     ASSERT_TRUE(wnd.CreateChildOf(parent));
     EXPECT_EQ(parent, GetParent(wnd));
     EXPECT_EQ(7, GetDlgCtrlID(wnd));
@@ -57,8 +48,8 @@ TEST(Wnd, CreatesTheWindowWithTheGivenPlaceParentAndNumber)
 TEST(Wnd, HasAPlainClassOfItsOwnWhenNoneIsNamed)
 {
     const CTestWindow parent;
-    CWatchedWnd first;
-    CWatchedWnd second;
+    CChildWnd first;
+    CChildWnd second;
     ASSERT_TRUE(first.CreateChildOf(parent));
     ASSERT_TRUE(second.CreateChildOf(parent));
     EXPECT_FALSE(GetClassOf(first).empty());
@@ -77,7 +68,7 @@ TEST(Wnd, IsNotCreatedOfAnUnknownClass)
 TEST(Wnd, KeepsItsFirstWindowWhenASecondIsCreated)
 {
     const CTestWindow parent;
-    CWatchedWnd wnd;
+    CChildWnd wnd;
     ASSERT_TRUE(wnd.CreateChildOf(parent));
     const HWND hFirst = wnd;
     EXPECT_FALSE(wnd.CreateChildOf(parent));
@@ -88,7 +79,7 @@ TEST(Wnd, KeepsItsFirstWindowWhenASecondIsCreated)
 TEST(Wnd, IsFoundByItsHandleWhileItIsAttached)
 {
     const CTestWindow parent;
-    CWatchedWnd wnd;
+    CChildWnd wnd;
     ASSERT_TRUE(wnd.CreateChildOf(parent));
     const HWND hWnd = wnd;
     EXPECT_EQ(&wnd, CWnd::FromHandlePermanent(hWnd));
@@ -103,7 +94,7 @@ TEST(Wnd, DestroysItsWindowWithItself)
     const CTestWindow parent;
     HWND hWnd = nullptr;
     {
-        CWatchedWnd wnd;
+        CChildWnd wnd;
         ASSERT_TRUE(wnd.CreateChildOf(parent));
         hWnd = wnd;
     }
@@ -114,13 +105,10 @@ TEST(Wnd, DestroysItsWindowWithItself)
 TEST(Wnd, ForgetsAWindowThatWentWithItsParent)
 {
     auto parent = std::make_unique<CTestWindow>();
-    bool bLastCallCame = false;
-    CWatchedWnd wnd;
-    wnd.m_pbLastCallCame = &bLastCallCame;
+    CChildWnd wnd;
     ASSERT_TRUE(wnd.CreateChildOf(*parent));
     parent.reset();
     EXPECT_EQ(nullptr, wnd.m_hWnd);
-    EXPECT_TRUE(bLastCallCame) << "PostNcDestroy comes last, when the handle is gone";
     EXPECT_FALSE(wnd.DestroyWindow());
 }
 

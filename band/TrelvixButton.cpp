@@ -107,7 +107,7 @@ const wchar_t* CTrelvixButton::GetLabelList()
 
 void CTrelvixButton::SetGapWidth(DWORD dwMask, int nButton)
 {
-    RECT rect = {};
+    RECT rect = {}; // asked for and not used, and meant so
     m_pToolbar->GetItemRect(m_pToolbar->GetButtonCount() - 1, &rect);
     TBBUTTONINFOW info = {};
     info.cbSize = sizeof info;

@@ -76,7 +76,7 @@ bool CButtonSearchWeb::TakeFocus()
 
 HRESULT CButtonSearchWeb::TranslateKey(MSG* pMsg)
 {
-    if (pMsg->wParam == VK_RETURN)
+    if (pMsg->wParam == VK_RETURN) // whatever the message, and meant so
     {
         pMsg->wParam = 0;
         Run();

@@ -54,6 +54,7 @@ void CComboSearch::OnSetFocus()
 
 void CComboSearch::OnSelEndOk()
 {
+    // The change of the selection has searched already; that both do is meant so.
     if (m_pOwnerButton != nullptr && GetCurSel() != GetCount() - 1)
         m_pOwnerButton->Run();
 }

@@ -87,7 +87,9 @@ bool CFakeButton::Initialize(CTrelvixWindow* pParent)
     m_bHasControl = GetTraits().bHasControl;
     m_bFocusable = GetTraits().bFocusable;
     m_nControlWidth = 50;
-    return CTrelvixButton::Initialize(pParent);
+    const bool bInitialized = CTrelvixButton::Initialize(pParent);
+    m_tbButton.fsStyle = GetTraits().fsStyle;
+    return bInitialized;
 }
 
 void CFakeButton::Show(bool bShow)
@@ -102,8 +104,10 @@ bool CFakeButton::OnCommand(UINT nCommand)
     return true;
 }
 
-void CFakeButton::OnBrowserEvent(DISPID dispid, REFIID, LCID, WORD, DISPPARAMS*, VARIANT*, EXCEPINFO*, UINT*)
+void CFakeButton::OnBrowserEvent(DISPID dispid, REFIID riid, LCID lcid, WORD wFlags, DISPPARAMS* pDispParams,
+                                 VARIANT* pVarResult, EXCEPINFO* pExcepInfo, UINT* puArgErr)
 {
+    CFakeButtons::Get().m_lastEvent = {dispid, riid, lcid, wFlags, pDispParams, pVarResult, pExcepInfo, puArgErr};
     Tell("OnBrowserEvent " + std::to_string(dispid));
 }
 

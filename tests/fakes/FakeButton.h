@@ -9,6 +9,19 @@
 #include <utility>
 #include <vector>
 
+/// The arguments of an event of the browser, as an item was given them. The pointers are for comparison.
+struct CRawEvent
+{
+    DISPID dispid;
+    IID iid;
+    LCID lcid;
+    WORD wFlags;
+    const DISPPARAMS* pDispParams;
+    const VARIANT* pVarResult;
+    const EXCEPINFO* pExcepInfo;
+    const UINT* puArgErr;
+};
+
 /// What the fake items are and answer, what they were told, and the test's own part in it. One for the program; each
 /// test starts with `Reset`.
 class CFakeButtons
@@ -22,6 +35,7 @@ public:
         bool bTakesFocus = true;
         bool bHasFocus = false;
         bool bTakesIconClick = false;
+        BYTE fsStyle = BTNS_BUTTON; ///< of its button on the toolbar
         HRESULT hrTranslateKey = S_OK;
         bool bTakesScriptErrors = false;
         bool bContinuesScripts = true; ///< the answer to a script error that it takes
@@ -41,6 +55,7 @@ public:
 
     /// Called within each call, after it was kept, and within Initialize ("4 Initialize"), which is not kept.
     std::function<void(const std::string& strCall)> m_onCall;
+    CRawEvent m_lastEvent = {};
     int m_nLiving = 0;
     int m_nCreated = 0;
 

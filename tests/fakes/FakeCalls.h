@@ -1,6 +1,7 @@
 #pragma once
 
 #include <windows.h>
+#include <gtest/gtest.h>
 
 #include <cstddef>
 #include <functional>
@@ -25,6 +26,8 @@ public:
     /// Makes the n-th call from now on fail, counted from 1 over all fakes, QueryInterface included. With S_OK the call
     /// claims success, with its out pointer null.
     void FailCall(size_t n, HRESULT hr);
+    /// Lets the call that FailCall named succeed if it is still to come.
+    void StopFailing() { m_nCallsToFailure = 0; }
     /// Whether the call that FailCall named has come.
     bool HasFailed() const { return m_bHasFailed; }
     /// Makes all calls of a name ("WebBrowser.get_Document") fail.
@@ -72,7 +75,10 @@ void ForEachFailingCall(HRESULT hr, Action action)
         calls.Reset();
         calls.FailCall(n, hr);
         action();
-        if (!calls.HasFailed())
-            return;
+        if (calls.HasFailed())
+            continue;
+        EXPECT_GT(n, 1u) << "the action makes no call";
+        return;
     }
+    ADD_FAILURE() << "the action never comes through whole";
 }

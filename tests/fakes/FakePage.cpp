@@ -61,7 +61,7 @@ void CFakePage::LoadFrame(CFakeWebBrowser2& frame, const Send& send, bool bDownl
         SendEvent(send, CBrowserEvent::DownloadBegin());
     SendEvent(send, CBrowserEvent::NavigateComplete2(frame.AsFrame(), frame.m_strUrl));
     for (CFakeWebBrowser2* pChild : GetFrames(frame))
-        LoadFrame(*pChild, send, false);
+        LoadFrame(*pChild, send, bDownload);
     if (bDownload)
         SendEvent(send, CBrowserEvent::DownloadComplete());
     frame.m_eReadyState = READYSTATE_COMPLETE;

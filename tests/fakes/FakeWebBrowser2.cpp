@@ -32,7 +32,8 @@ STDMETHODIMP CFakeWebBrowser2::Navigate(BSTR bstrUrl, VARIANT* pFlags, VARIANT* 
 
 STDMETHODIMP CFakeWebBrowser2::get_Document(IDispatch** ppDocument)
 {
-    return Call("get_Document", ppDocument, [&] { return m_spDocument.CopyTo(ppDocument); });
+    return Call("get_Document", ppDocument,
+                [&] { return FAILED(m_hrDocument) ? m_hrDocument : m_spDocument.CopyTo(ppDocument); });
 }
 
 STDMETHODIMP CFakeWebBrowser2::get_LocationURL(BSTR* pbstrUrl)

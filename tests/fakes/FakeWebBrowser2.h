@@ -63,6 +63,7 @@ public:
     CFakeConnectionPoint& GetConnectionPoint() { return *m_spConnectionPoint.Get(); }
 
     Microsoft::WRL::ComPtr<IDispatch> m_spDocument; ///< null: get_Document succeeds without one
+    HRESULT m_hrDocument = S_OK;                    ///< a failure: get_Document gives none
     std::wstring m_strUrl = L"about:blank";
     HWND m_hWnd = nullptr;
     READYSTATE m_eReadyState = READYSTATE_COMPLETE;

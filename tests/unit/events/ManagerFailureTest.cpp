@@ -25,7 +25,6 @@ protected:
         CFakePage::AddObject(*m_frames[1]);
         for (int n = 0; n < 2; ++n)
             m_frames.push_back(&m_page.AddFrame(*m_frames[1], L"http://page.test/inner"));
-        m_frames.push_back(&m_page.GetTop());
         m_manager.SetWebBrowser(&m_page.GetTop());
     }
 
@@ -41,7 +40,7 @@ protected:
     }
 
     CFakePage m_page;
-    std::vector<CFakeWebBrowser2*> m_frames; ///< owned by the page; the page itself is the last
+    std::vector<CFakeWebBrowser2*> m_frames; ///< owned by the page
     CRecordingEvents m_events;
     CObservedManager m_manager {&m_events};
 };
@@ -118,7 +117,7 @@ TEST(DeniedFrame, IsSteppedOver)
     CFakeWebBrowser2& denied = page.AddFrame(page.GetTop(), L"http://other.test/");
     page.AddFrame(denied, L"http://other.test/inner");
     CFakeWebBrowser2& target = page.AddFrame(page.GetTop(), L"http://page.test/frame");
-    denied.m_spDocument.Reset();
+    denied.m_hrDocument = E_ACCESSDENIED;
     std::wstring strPath;
     ComPtr<IDispatch> spFound;
     EXPECT_TRUE(CTVXEventManager::FindLoadingFrame(target.AsFrame(), L"1.", page.GetTop().AsFrame(), strPath, spFound));

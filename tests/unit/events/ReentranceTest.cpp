@@ -182,17 +182,31 @@ TEST_F(NestedEvent, GivesAPendingLoadItsAddressAlthoughANotificationClearsIt)
         EXPECT_EQ(FrameUrl, told.strUrl);
 }
 
+/// A box of a page's command, and the button that the user presses in it.
+struct CCommandBox
+{
+    const char* pszName;
+    const wchar_t* pszCommand;
+    int nButton;
+};
+
+const CCommandBox commandBoxes[] = {
+    {"AcceptedAfter", L"trelvix:searchweb?name=n&url=http://search.test/", IDOK},
+    {"CancelledAfter", L"trelvix:searchweb?name=n&url=http://search.test/", IDCANCEL},
+    {"RefusedAfter", L"trelvix:searchweb?name=n", IDOK},
+};
+
 /// The browser fires an event while a box of a page's command is open.
-class EventInBox : public CToolbarOnPageTest, public testing::WithParamInterface<std::tuple<int, CNestedEvent>>
+class EventInBox : public CToolbarOnPageTest, public testing::WithParamInterface<std::tuple<CCommandBox, CNestedEvent>>
 {
 };
 
 TEST_P(EventInBox, LeavesTheToolbarInOrder)
 {
     CFakeWebBrowser2& frame = m_page.AddFrame(GetTop(), FrameUrl);
-    const auto& [nButton, nested] = GetParam();
-    const CMessageBoxAnswerer answerer(nButton, [&] { Send(nested.make(GetTop(), frame)); });
-    EXPECT_TRUE(Navigate(L"trelvix:searchweb?name=n&url=http://search.test/"));
+    const auto& [box, nested] = GetParam();
+    const CMessageBoxAnswerer answerer(box.nButton, [&] { Send(nested.make(GetTop(), frame)); });
+    EXPECT_TRUE(Navigate(box.pszCommand));
     EXPECT_EQ(1u, answerer.GetShown().size());
     Send(CBrowserEvent::DocumentComplete(GetTop().AsFrame(), PageUrl));
     EXPECT_EQ(CTVXEventManager::StateIdle, m_pWindow->GetState());
@@ -205,11 +219,9 @@ TEST_P(EventInBox, LeavesTheToolbarInOrder)
 }
 
 INSTANTIATE_TEST_SUITE_P(All, EventInBox,
-                         testing::Combine(testing::Values(IDOK, IDCANCEL), testing::ValuesIn(nestedEvents)),
+                         testing::Combine(testing::ValuesIn(commandBoxes), testing::ValuesIn(nestedEvents)),
                          [](const auto& info) {
-                             const char* pszButton =
-                                 std::get<0>(info.param) == IDOK ? "AcceptedAfter" : "CancelledAfter";
-                             return pszButton + ToText(std::get<1>(info.param));
+                             return std::get<0>(info.param).pszName + ToText(std::get<1>(info.param));
                          });
 
 TEST_F(CToolbarOnPageTest, AsksASecondTimeInsideABoxAndStoresTheLastAnswer)

@@ -1,9 +1,12 @@
 // The one command that the handler takes for itself.
 
+#include "framework/ComQuery.h"
 #include "tests/unit/events/ToolbarOnPageFixture.h"
 #include "tests/unit/events/UIHandlerFixture.h"
 
 #include <comutil.h>
+
+using Microsoft::WRL::ComPtr;
 
 namespace
 {
@@ -44,9 +47,9 @@ protected:
 
     static UINT_PTR ToNumber(const void* pArgument) { return reinterpret_cast<UINT_PTR>(pArgument); }
 
-    Microsoft::WRL::ComPtr<CFakeClientSite> m_spSite = MakeFake<CFakeClientSite>();
-    Microsoft::WRL::ComPtr<ITrelvixMSHTMLUIHandler> m_spHandler;
-    Microsoft::WRL::ComPtr<IOleCommandTarget> m_spTarget;
+    ComPtr<CFakeClientSite> m_spSite = MakeFake<CFakeClientSite>();
+    ComPtr<ITrelvixMSHTMLUIHandler> m_spHandler;
+    ComPtr<IOleCommandTarget> m_spTarget;
     _variant_t m_vDocument {static_cast<IUnknown*>(CFakePage::GetDocument(GetTop()).AsObject())};
     _variant_t m_vAnswer;
 };
@@ -59,6 +62,17 @@ TEST_F(ScriptError, IsOfferedToEachVisibleItemInTheOrderOfTheTable)
         if (m_pWindow->GetVisibleButton(nIndex) != nullptr)
             expected.push_back(std::to_string(nIndex) + " OnScriptError");
     EXPECT_EQ(expected, CFakeButtons::Get().TakeCalls());
+}
+
+TEST_F(ScriptError, IsNotOfferedToHiddenItems)
+{
+    CSettingsStore(SettingsRoot).WriteString(L"0001000900010003", L"Toolbar", L"Layout");
+    m_pWindow->LoadLayout();
+    CFakeButtons::Get().TakeCalls();
+    EXPECT_EQ(DefaultAnswer, ExecScriptError());
+    EXPECT_THAT(CFakeButtons::Get().TakeCalls(),
+                testing::ElementsAre("0 OnScriptError", "3 OnScriptError", "9 OnScriptError"));
+    CSettingsStore(SettingsRoot).WriteString(L"", L"Toolbar", L"Layout");
 }
 
 TEST_F(ScriptError, GoesToTheDefaultWithAllArgumentsWhenNoItemTakesIt)
@@ -146,9 +160,9 @@ TEST_F(ScriptError, GoesToTheDefaultWithoutADocument)
 
 TEST_F(ScriptError, FailsWithoutADefaultWhenNoItemTakesIt)
 {
-    Microsoft::WRL::ComPtr<ITrelvixMSHTMLUIHandler> spHandler;
+    ComPtr<ITrelvixMSHTMLUIHandler> spHandler;
     CoCreateInstance(CLSID_TrelvixMSHTMLUIHandler, nullptr, CLSCTX_ALL, IID_PPV_ARGS(&spHandler));
-    Microsoft::WRL::ComPtr<IOleCommandTarget> spTarget;
+    ComPtr<IOleCommandTarget> spTarget;
     spHandler.As(&spTarget);
     EXPECT_EQ(E_FAIL, spTarget->Exec(nullptr, OLECMDID_SHOWSCRIPTERROR, 0, &m_vDocument, &m_vAnswer));
     EXPECT_EQ(E_FAIL, spTarget->Exec(nullptr, OLECMDID_PRINT, 0, nullptr, nullptr));
@@ -184,6 +198,14 @@ TEST_F(ScriptError, SurvivesAnItemThatLetsTheDocumentDropTheHandler)
 
 class FailingScriptError : public ScriptError, public testing::WithParamInterface<HRESULT>
 {
+protected:
+    static void ExpectNoDefault(ITrelvixMSHTMLUIHandler& handler)
+    {
+        const auto spUI = QueryFor<IDocHostUIHandler>(&handler);
+        ComPtr<IDispatch> spExternal;
+        EXPECT_EQ(S_FALSE, spUI->GetExternal(&spExternal));
+        EXPECT_EQ(E_FAIL, QueryFor<IOleCommandTarget>(&handler)->QueryStatus(nullptr, 0, nullptr, nullptr));
+    }
 };
 
 TEST_P(FailingScriptError, ComesToNoHarmWhicheverCallFails)
@@ -196,11 +218,27 @@ TEST_P(FailingScriptError, ComesToNoHarmWhicheverCallFails)
     });
 }
 
+TEST_P(FailingScriptError, IsTakenOrGoesToTheDefaultWhicheverCallFails)
+{
+    CFakeButtons::Get()[ScriptErrorAlertIndex].bTakesScriptErrors = true;
+    ForEachFailingCall(GetParam(), [&] {
+        m_vAnswer.Clear();
+        const HRESULT hr = m_spTarget->Exec(nullptr, OLECMDID_SHOWSCRIPTERROR, 0, &m_vDocument, &m_vAnswer);
+        const bool bFailed = CFakeCalls::Get().HasFailed();
+        EXPECT_EQ(bFailed ? DefaultAnswer : S_OK, hr);
+        EXPECT_EQ(bFailed ? VT_EMPTY : VT_BOOL, V_VT(&m_vAnswer));
+    });
+}
+
 TEST_P(FailingScriptError, LeavesNoDefaultBehindWhicheverCallOfTheSiteFails)
 {
     ForEachFailingCall(GetParam(), [&] {
-        const HRESULT hr = m_spHandler->SetOleClientSite(m_spSite.Get());
+        ComPtr<ITrelvixMSHTMLUIHandler> spHandler;
+        CoCreateInstance(CLSID_TrelvixMSHTMLUIHandler, nullptr, CLSCTX_ALL, IID_PPV_ARGS(&spHandler));
+        const HRESULT hr = spHandler->SetOleClientSite(m_spSite.Get());
         EXPECT_EQ(CFakeCalls::Get().HasFailed() ? GetParam() : S_OK, hr);
+        if (FAILED(hr))
+            ExpectNoDefault(*spHandler.Get());
     });
 }
 

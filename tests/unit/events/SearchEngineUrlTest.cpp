@@ -86,6 +86,14 @@ TEST_F(SearchEngineUrl, BringsTheHiddenSearchBoxBackOnRequest)
     EXPECT_EQ(writes, m_broker->m_writes);
 }
 
+TEST_F(SearchEngineUrl, WritesNothingToASearchBoxThatWasNeverHidden)
+{
+    CSettingsStore(SettingsRoot).WriteString(L"", OptionsSection, HideWebSearch);
+    m_broker->m_writes.clear();
+    Accept(ValidCommand);
+    EXPECT_EQ(EngineWrites(L"Some Engine", L"http://search.test/?q=%%WORD%%"), m_broker->m_writes);
+}
+
 class KeepsTheSearchBox : public SearchEngineUrl, public testing::WithParamInterface<const wchar_t*>
 {
 };
@@ -187,6 +195,7 @@ INSTANTIATE_TEST_SUITE_P(SearchEngineUrl, RefusedEngine,
 TEST_F(SearchEngineUrl, TakesAValueThatJustFits)
 {
     const std::wstring strName(2083, L'n');
+    m_broker->m_writes.clear();
     Accept(L"trelvix:searchweb?name=" + strName + L"&url=http://u/");
     EXPECT_EQ(EngineWrites(strName, L"http://u/").front(), m_broker->m_writes.front());
 }
@@ -197,6 +206,19 @@ TEST_F(SearchEngineUrl, TakesAValueThatDoesNotFitForMissing)
     m_broker->m_writes.clear();
     const CShownBox box = Accept(L"trelvix:searchweb?name=" + strName + L"&url=http://u/");
     EXPECT_EQ(LoadIconW(nullptr, IDI_ERROR), box.hIcon);
+    EXPECT_THAT(m_broker->m_writes, IsEmpty());
+}
+
+TEST_F(SearchEngineUrl, MeasuresTheDecodedValue)
+{
+    std::wstring strEscaped;
+    for (int n = 0; n < 2083; ++n)
+        strEscaped += L"%6E";
+    m_broker->m_writes.clear();
+    Accept(L"trelvix:searchweb?name=" + strEscaped + L"&url=http://u/");
+    EXPECT_EQ(EngineWrites(std::wstring(2083, L'n'), L"http://u/").front(), m_broker->m_writes.front());
+    m_broker->m_writes.clear();
+    Accept(L"trelvix:searchweb?name=" + strEscaped + L"%6E&url=http://u/");
     EXPECT_THAT(m_broker->m_writes, IsEmpty());
 }
 

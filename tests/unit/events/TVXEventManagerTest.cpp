@@ -188,6 +188,20 @@ TEST_F(EventManager, ResetsTheCountersWhenTheTopLevelPageIsComplete)
     EXPECT_EQ(CTVXEventManager::StateIdle, m_manager.GetState());
 }
 
+TEST_F(EventManager, EndsAFrameLoadWithTheCompletePage)
+{
+    CFakeWebBrowser2& first = AddFrame(FrameUrl);
+    CFakeWebBrowser2& second = AddFrame(L"http://page.test/second");
+    m_events.ExpectFrameLoadBegin(first.AsFrame(), FrameUrl, L"1.1.");
+    BeforeNavigate(first, FrameUrl);
+    BeforeNavigate(second, L"http://page.test/second");
+    m_events.ExpectFrameLoadComplete(GetTop().AsFrame(), PageUrl);
+    DocumentComplete(GetTop(), PageUrl);
+    EXPECT_EQ(CTVXEventManager::StateIdle, m_manager.GetState());
+    EXPECT_EQ(0, m_manager.m_nNavigations);
+    EXPECT_EQ(0, m_manager.m_nDownloads);
+}
+
 TEST_F(EventManager, CountsANavigationThatIsToldTwiceOnce)
 {
     m_events.ExpectPageLoad(GetTop().AsFrame(), PageUrl);
@@ -217,6 +231,7 @@ TEST_F(EventManager, FindsALoadingFrameBeforeTheTarget)
     CFakeWebBrowser2& target = AddFrame(FrameUrl);
     m_events.ExpectFrameLoadBegin(target.AsFrame(), FrameUrl, L"1.1.");
     BeforeNavigate(target, FrameUrl);
+    EXPECT_EQ(target.AsFrame(), m_manager.m_spActiveFrame.Get()) << "the frame of the event, not the one found";
 }
 
 TEST_F(EventManager, NumbersOnlyEmbeddedObjectsThatAreBrowsers)

@@ -95,9 +95,11 @@ TEST_F(BandInfo, LeavesAloneWhatIsNotAskedFor)
 
 TEST_F(BandInfo, WithoutTheModeNeitherReadsNorWritesASetting)
 {
+    ForgetFirstTime();
     Ask(AllMembers & ~DBIM_MODEFLAGS);
     EXPECT_THAT(m_broker->m_reads, ElementsAre());
     EXPECT_THAT(m_broker->m_writes, ElementsAre());
+    EXPECT_EQ(L"", ReadSetting(L"Options", L"ToolbarFirstTime"));
 }
 
 TEST_F(BandInfo, LeavesTheRowToTheBrowserOnceTheToolbarWasShown)

@@ -2,6 +2,7 @@
 
 #include "band/BandService.h"
 
+#include "framework/Handles.h"
 #include "settings/LanguagePack.h"
 #include "tests/unit/band/BandFixture.h"
 
@@ -24,31 +25,35 @@ class CMachineRegistry
 public:
     CMachineRegistry()
     {
-        RegCreateKeyExW(HKEY_CURRENT_USER, m_strPath.c_str(), 0, nullptr, REG_OPTION_VOLATILE, KEY_ALL_ACCESS, nullptr,
-                        &m_hKey, nullptr);
-        RegOverridePredefKey(HKEY_LOCAL_MACHINE, m_hKey);
+        m_key = CreateKey(HKEY_CURRENT_USER, m_strPath.c_str());
+        RegOverridePredefKey(HKEY_LOCAL_MACHINE, m_key.get());
     }
     CMachineRegistry(const CMachineRegistry&) = delete;
     CMachineRegistry& operator=(const CMachineRegistry&) = delete;
     ~CMachineRegistry()
     {
         RegOverridePredefKey(HKEY_LOCAL_MACHINE, nullptr);
-        RegCloseKey(m_hKey);
+        m_key.reset();
         RegDeleteTreeW(HKEY_CURRENT_USER, m_strPath.c_str());
     }
 
     void Set(const wchar_t* pszKey, const wchar_t* pszName, const std::wstring& strValue) const
     {
-        HKEY hKey = nullptr;
-        RegCreateKeyExW(m_hKey, pszKey, 0, nullptr, REG_OPTION_VOLATILE, KEY_ALL_ACCESS, nullptr, &hKey, nullptr);
-        RegSetValueExW(hKey, pszName, 0, REG_SZ, reinterpret_cast<const BYTE*>(strValue.c_str()),
+        const CUniqueRegistryKey key = CreateKey(m_key.get(), pszKey);
+        RegSetValueExW(key.get(), pszName, 0, REG_SZ, reinterpret_cast<const BYTE*>(strValue.c_str()),
                        static_cast<DWORD>((strValue.size() + 1) * sizeof(wchar_t)));
-        RegCloseKey(hKey);
     }
 
 private:
+    static CUniqueRegistryKey CreateKey(HKEY hParent, const wchar_t* pszKey)
+    {
+        HKEY hKey = nullptr;
+        RegCreateKeyExW(hParent, pszKey, 0, nullptr, REG_OPTION_VOLATILE, KEY_ALL_ACCESS, nullptr, &hKey, nullptr);
+        return CUniqueRegistryKey(hKey);
+    }
+
     const std::wstring m_strPath = L"Software\\" + GetOwnName();
-    HKEY m_hKey = nullptr;
+    CUniqueRegistryKey m_key;
 };
 
 /// An installation folder with one language pack, removed with the object.

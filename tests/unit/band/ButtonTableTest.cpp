@@ -5,6 +5,7 @@
 #include "band/TrelvixButton.h"
 #include "band/TrelvixWindow.h"
 #include "settings/LanguagePack.h"
+#include "tests/fakes/ToolbarRecorder.h"
 #include "tests/unit/band/BandFixture.h"
 #include "tools/ButtonSearchInPage.h"
 #include "tools/ButtonSeparator.h"
@@ -146,6 +147,24 @@ TEST_F(ItemOfWidth, KeepsItsPlaceOpenOnTheToolbar)
     EXPECT_EQ(10, GetWidth(3)) << "each gap is as wide as the first";
     EXPECT_EQ(200, GetWidth(4));
     EXPECT_EQ(60, GetWidth(5));
+}
+
+TEST_F(ItemOfWidth, AddressesEachGapByItsPosition)
+{
+    StoreSetting(L"Toolbar", L"Layout", L"000100010001000200010001");
+    const CToolbarRecorder recorder;
+    Connect();
+    const auto messages = recorder.GetMessages(TB_SETBUTTONINFOW);
+    ASSERT_EQ(2u, messages.size());
+    EXPECT_EQ(1u, messages[0].wParam);
+    EXPECT_EQ(3u, messages[1].wParam);
+    for (const CToolbarMessage& message : messages)
+    {
+        EXPECT_EQ(0x80000048, message.buttonInfo.dwMask);
+        EXPECT_EQ(48u, message.buttonInfo.cbSize);
+        EXPECT_EQ(BTNS_SEP, message.buttonInfo.fsStyle);
+        EXPECT_EQ(10, message.buttonInfo.cx);
+    }
 }
 
 namespace

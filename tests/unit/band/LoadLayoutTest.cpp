@@ -10,7 +10,9 @@
 
 #include <random>
 
+using testing::Contains;
 using testing::ElementsAre;
+using testing::Not;
 
 namespace
 {
@@ -111,13 +113,14 @@ TEST_F(LoadLayout, MakesVisibleExactlyTheItemsThatStandInIt)
         EXPECT_EQ(nIndex == 0 || nIndex == 2 || nIndex == 6, GetToolbar().GetButton(nIndex)->IsVisible()) << nIndex;
 }
 
-TEST_F(LoadLayout, ReadsTheLayoutOncePerProcess)
+TEST_F(LoadLayout, DoesNotSeeALayoutThatAnotherProcessStores)
 {
     Load(L"00010002");
+    m_broker->m_values[GetSettingKey(L"Toolbar", L"Layout")] = L"00010003";
     m_broker->m_reads.clear();
-    Load(L"00010003");
-    for (const std::wstring& strKey : m_broker->m_reads)
-        EXPECT_NE(GetSettingKey(L"Toolbar", L"Layout"), strKey);
+    GetToolbar().LoadLayout();
+    EXPECT_THAT(GetItemsOnToolbar(), ElementsAre(0, 2));
+    EXPECT_THAT(m_broker->m_reads, Not(Contains(GetSettingKey(L"Toolbar", L"Layout"))));
 }
 
 TEST_F(LoadLayout, SendsTheMetricsOfAPlainToolbar)

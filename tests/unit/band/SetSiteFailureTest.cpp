@@ -133,7 +133,7 @@ TEST_F(FailingSite, LeavesNothingBehindWhateverCallFails)
         ForEachFailingCall(hr, [&] {
             const HRESULT hrSite = GiveSite(GetSiteObject());
             EXPECT_TRUE(hrSite == S_OK || hrSite == E_FAIL);
-            CFakeCalls::Get().FailCall(0, S_OK);
+            CFakeCalls::Get().StopFailing();
             m_spBand->CloseDW(0);
             EXPECT_EQ(S_OK, GiveSite(nullptr));
             EXPECT_FALSE(HasSite());

@@ -22,6 +22,17 @@ TEST_F(SetSite, ConnectsStepByStep)
                             "ConnectionPoint.Advise", "WebBrowser.PutProperty"));
 }
 
+TEST_F(SetSite, CreatesTheWindowBetweenTheBrowserAndItsEvents)
+{
+    CFakeCalls::Get().ActIn("BandSite.QueryService", [&] { EXPECT_EQ(nullptr, GetBandWindow()); });
+    CFakeCalls::Get().ActIn("WebBrowser.FindConnectionPoint", [&] {
+        ASSERT_TRUE(IsWindow(GetBandWindow()));
+        EXPECT_EQ(nullptr, GetToolbar().GetBand());
+    });
+    CFakeCalls::Get().ActIn("WebBrowser.PutProperty", [&] { EXPECT_NE(nullptr, GetToolbar().GetBand()); });
+    Connect();
+}
+
 TEST_F(SetSite, MakesTheToolbarAChildOfTheSitesWindow)
 {
     Connect();

@@ -2,6 +2,7 @@
 
 #include "band/TrelvixWindow.h"
 #include "controls/IsolationAware.h"
+#include "framework/Handles.h"
 #include "tests/fakes/ToolbarRecorder.h"
 #include "tests/unit/band/BandFixture.h"
 
@@ -10,12 +11,11 @@ namespace
 /// Switches the visual style off, as the theme library does it for all programs.
 void DisableVisualStyle()
 {
-    const HMODULE hTheme = LoadLibraryW(L"uxtheme.dll");
+    const CUniqueModule theme(LoadLibraryW(L"uxtheme.dll"));
     const auto pfnEnableTheming =
-        reinterpret_cast<HRESULT(WINAPI*)(BOOL)>(reinterpret_cast<void*>(GetProcAddress(hTheme, "EnableTheming")));
+        reinterpret_cast<HRESULT(WINAPI*)(BOOL)>(reinterpret_cast<void*>(GetProcAddress(theme.get(), "EnableTheming")));
     ASSERT_NE(nullptr, pfnEnableTheming);
     EXPECT_EQ(S_OK, pfnEnableTheming(FALSE));
-    FreeLibrary(hTheme);
 }
 
 /// Lets the programs that start from now on have the visual style again.

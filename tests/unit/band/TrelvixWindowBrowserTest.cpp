@@ -1,49 +1,14 @@
 // What the toolbar asks of the browser: navigations and the side bar.
 
 #include "band/InfoBarHelper.h"
-#include "band/TrelvixWindow.h"
-#include "framework/HostVersion.h"
-#include "tests/unit/band/BandFixture.h"
+#include "tests/unit/band/ToolbarBrowserFixture.h"
 
 #include <gmock/gmock.h>
 
 using Microsoft::WRL::ComPtr;
 using testing::ElementsAre;
 
-namespace
-{
-constexpr LONG InNewWindow = 1;
-constexpr LONG InNewTab = 2048;
-
-class ToolbarBrowser : public CBandTest
-{
-protected:
-    void ConnectWithoutBrowser()
-    {
-        CFakeCalls::Get().FailAll("BandSite.QueryService", E_NOINTERFACE);
-        Connect();
-    }
-
-    /// The flags of each navigation that the browser was asked for.
-    std::vector<LONG> GetFlags() const
-    {
-        std::vector<LONG> flags;
-        for (const auto& navigation : m_spBrowser->m_navigations)
-        {
-            EXPECT_EQ(VT_I4, V_VT(&navigation.vFlags));
-            EXPECT_FALSE(navigation.bOtherArguments);
-            flags.push_back(V_I4(&navigation.vFlags));
-        }
-        return flags;
-    }
-
-    /// This test runs in programs that are browsers of different versions.
-    static std::vector<LONG> GetFlagsOfFailedNew()
-    {
-        return IsIE7OrLater() ? std::vector {InNewTab, InNewWindow} : std::vector {InNewWindow};
-    }
-};
-} // namespace
+using ToolbarBrowser = CToolbarBrowserTest;
 
 TEST_F(ToolbarBrowser, IsSentToAnAddress)
 {
@@ -53,35 +18,12 @@ TEST_F(ToolbarBrowser, IsSentToAnAddress)
     EXPECT_EQ(L"http://page.test/", m_spBrowser->m_navigations.front().strUrl);
 }
 
-TEST_F(ToolbarBrowser, IsSentThereInANewTabOrWindow)
-{
-    Connect();
-    EXPECT_TRUE(GetToolbar().NavigateTo(L"http://page.test/", true));
-    EXPECT_THAT(GetFlags(), ElementsAre(IsIE7OrLater() ? InNewTab : InNewWindow));
-}
-
 TEST_F(ToolbarBrowser, CountsAsSentWhenItsOwnNavigationFails)
 {
     Connect();
     CFakeCalls::Get().FailAll("WebBrowser.Navigate", E_FAIL);
     EXPECT_TRUE(GetToolbar().NavigateTo(L"http://page.test/", false));
     EXPECT_THAT(GetFlags(), ElementsAre(0));
-}
-
-TEST_F(ToolbarBrowser, IsAskedForANewWindowWhenThereIsNoNewTab)
-{
-    Connect();
-    CFakeCalls::Get().FailCall(1, E_FAIL);
-    EXPECT_EQ(IsIE7OrLater(), GetToolbar().NavigateTo(L"http://page.test/", true));
-    EXPECT_EQ(GetFlagsOfFailedNew(), GetFlags());
-}
-
-TEST_F(ToolbarBrowser, GivesNeitherNewTabNorWindow)
-{
-    Connect();
-    CFakeCalls::Get().FailAll("WebBrowser.Navigate", E_FAIL);
-    EXPECT_FALSE(GetToolbar().NavigateTo(L"http://page.test/", true));
-    EXPECT_EQ(GetFlagsOfFailedNew(), GetFlags());
 }
 
 TEST_F(ToolbarBrowser, IsSentNowhereWhenThereIsNone)

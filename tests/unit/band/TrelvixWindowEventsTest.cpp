@@ -33,6 +33,34 @@ TEST_F(ToolbarEvents, ReachAnItemTwiceThatIsListedTwice)
                                                     "2 OnBrowserEvent 102", "6 OnBrowserEvent 102"));
 }
 
+TEST_F(ToolbarEvents, ReachTheSeparatorOncePerAppearance)
+{
+    ConnectWith({1, 6, 1});
+    Fire(CBrowserEvent::StatusTextChange(L"ready"));
+    EXPECT_THAT(GetItems().TakeCalls(), ElementsAre("0 OnBrowserEvent 102", "1 OnBrowserEvent 102",
+                                                    "6 OnBrowserEvent 102", "1 OnBrowserEvent 102"));
+}
+
+TEST_F(ToolbarEvents, ReachTheItemsWithAllTheirArguments)
+{
+    ConnectWith({6});
+    DISPPARAMS params = {};
+    VARIANT vResult = {};
+    EXCEPINFO exception = {};
+    UINT nArgument = 0;
+    AskBandFor<IDispatch>()->Invoke(7, IID_IStream, 0x409, DISPATCH_PROPERTYPUT, &params, &vResult, &exception,
+                                    &nArgument);
+    const CRawEvent& event = GetItems().m_lastEvent;
+    EXPECT_EQ(7, event.dispid);
+    EXPECT_EQ(IID_IStream, event.iid);
+    EXPECT_EQ(0x409u, event.lcid);
+    EXPECT_EQ(DISPATCH_PROPERTYPUT, event.wFlags);
+    EXPECT_EQ(&params, event.pDispParams);
+    EXPECT_EQ(&vResult, event.pVarResult);
+    EXPECT_EQ(&exception, event.pExcepInfo);
+    EXPECT_EQ(&nArgument, event.puArgErr);
+}
+
 TEST_F(ToolbarEvents, ReachTheItemsAfterTheNotificationThatTheyCause)
 {
     ConnectWith({6});

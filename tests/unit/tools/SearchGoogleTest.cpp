@@ -115,6 +115,22 @@ TEST_F(SearchEngine, ReadsItsSettingsOnce)
     EXPECT_EQ(L"twoword", GetAddressFor(L"word"));
 }
 
+TEST_F(SearchEngine, GetsTheFocusWhenAnotherComponentAsksForTheSearchBox)
+{
+    StoreSetting(L"Toolbar", L"Layout", L"000100080001000700010003");
+    GetToolbar().LoadLayout();
+    SendMessageW(GetBandWindow(), FocusSearchBoxMessage, 0, 0);
+    EXPECT_EQ(GetWindow(GetBox(Box), GW_CHILD), GetFocus()) << "and not a box that stands before it";
+}
+
+TEST_F(SearchEngine, GetsNoFocusInALayoutWithoutIt)
+{
+    StoreSetting(L"Toolbar", L"Layout", L"0001000800010007");
+    GetToolbar().LoadLayout();
+    SendMessageW(GetBandWindow(), FocusSearchBoxMessage, 0, 0);
+    EXPECT_EQ(m_frame, GetFocus());
+}
+
 TEST(SearchEngineItem, CanBeMadeWithoutAToolbar)
 {
     CButtonSearchGoogle item;

@@ -39,6 +39,23 @@ private:
     HHOOK m_hHook;
 };
 
+/// The drawing context of a window's client area, for as long as the object lives.
+class CClientDC
+{
+public:
+    explicit CClientDC(HWND hWnd) : m_hWnd(hWnd), m_hDC(GetDC(hWnd)) {}
+    CClientDC(const CClientDC&) = delete;
+    CClientDC& operator=(const CClientDC&) = delete;
+    ~CClientDC() { ReleaseDC(m_hWnd, m_hDC); }
+
+    operator HDC() const { return m_hDC; }
+    WPARAM AsParameter() const { return reinterpret_cast<WPARAM>(m_hDC); }
+
+private:
+    const HWND m_hWnd;
+    const HDC m_hDC;
+};
+
 /// The search box of the toolbar, on a template of its own.
 class SearchWebBox : public CToolbarTest
 {
@@ -59,12 +76,10 @@ protected:
     /// The colour in which the edit field would be drawn.
     COLORREF GetTextColorOfEdit()
     {
-        const HDC hDC = GetDC(GetEdit());
-        SetTextColor(hDC, RGB(1, 2, 3));
-        SendMessageW(GetBox(Box), WM_CTLCOLOREDIT, reinterpret_cast<WPARAM>(hDC), reinterpret_cast<LPARAM>(GetEdit()));
-        const COLORREF color = GetTextColor(hDC);
-        ReleaseDC(GetEdit(), hDC);
-        return color;
+        const CClientDC dc(GetEdit());
+        SetTextColor(dc, RGB(1, 2, 3));
+        SendMessageW(GetBox(Box), WM_CTLCOLOREDIT, dc.AsParameter(), reinterpret_cast<LPARAM>(GetEdit()));
+        return GetTextColor(dc);
     }
 };
 } // namespace
@@ -151,21 +166,19 @@ TEST_F(SearchWebBox, KeepsItsTextWhenItLosesTheFocus)
 
 TEST_F(SearchWebBox, ColoursOnlyItsEditField)
 {
-    const HDC hDC = GetDC(GetEdit());
-    SetTextColor(hDC, RGB(1, 2, 3));
-    SendMessageW(GetBox(Box), WM_CTLCOLORLISTBOX, reinterpret_cast<WPARAM>(hDC), reinterpret_cast<LPARAM>(GetEdit()));
-    EXPECT_NE(Grey, GetTextColor(hDC));
-    ReleaseDC(GetEdit(), hDC);
+    const CClientDC dc(GetEdit());
+    SetTextColor(dc, RGB(1, 2, 3));
+    SendMessageW(GetBox(Box), WM_CTLCOLORLISTBOX, dc.AsParameter(), reinterpret_cast<LPARAM>(GetEdit()));
+    EXPECT_NE(Grey, GetTextColor(dc));
 }
 
 TEST_F(SearchWebBox, GivesTheEditFieldTheBrushThatAnyEditFieldGets)
 {
-    const HDC hDC = GetDC(GetEdit());
-    const auto wParam = reinterpret_cast<WPARAM>(hDC);
+    const CClientDC dc(GetEdit());
+    const auto wParam = dc.AsParameter();
     const LRESULT hBrush = SendMessageW(GetBox(Box), WM_CTLCOLOREDIT, wParam, reinterpret_cast<LPARAM>(GetEdit()));
     EXPECT_EQ(DefWindowProcW(m_frame, WM_CTLCOLOREDIT, wParam, reinterpret_cast<LPARAM>(GetEdit())), hBrush);
     EXPECT_NE(0, hBrush);
-    ReleaseDC(GetEdit(), hDC);
 }
 
 TEST_F(SearchWebBox, TellsTheHostOfTheFocusWhenItGetsItAndNotWhenItLosesIt)

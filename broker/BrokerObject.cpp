@@ -26,6 +26,8 @@ HRESULT Read(BSTR key, BSTR* value)
     const auto path = ParseSettingPath(ViewOf(key));
     if (!path)
         return E_ACCESSDENIED;
+    if (*value != nullptr && !IsSoundText(*value)) // replaced, but nothing unsound is taken
+        return E_INVALIDARG;
     BSTR text = nullptr;
     const HRESULT hr = ReadUserSetting(*path, &text);
     if (FAILED(hr))

@@ -40,6 +40,7 @@ HRESULT SetPolicyFolder()
                                               folder.c_str(),
                                               static_cast<DWORD>((folder.size() + 1) * sizeof(wchar_t))));
 }
+
 void DeleteEmptyKey(const wchar_t* path)
 {
     DWORD subkeys = 0;
@@ -48,9 +49,9 @@ void DeleteEmptyKey(const wchar_t* path)
     if (RegOpenKeyExW(HKEY_LOCAL_MACHINE, path, 0, KEY_QUERY_VALUE, &hKey) != ERROR_SUCCESS)
         return;
     const CUniqueRegistryKey key(hKey);
-    RegQueryInfoKeyW(key.get(), nullptr, nullptr, nullptr, &subkeys, nullptr, nullptr, &values, nullptr, nullptr,
-                     nullptr, nullptr);
-    if (subkeys == 0 && values == 0)
+    const LSTATUS status = RegQueryInfoKeyW(key.get(), nullptr, nullptr, nullptr, &subkeys, nullptr, nullptr, &values,
+                                            nullptr, nullptr, nullptr, nullptr);
+    if (status == ERROR_SUCCESS && subkeys == 0 && values == 0)
         RegDeleteKeyW(HKEY_LOCAL_MACHINE, path);
 }
 } // namespace

@@ -13,6 +13,7 @@ bool StartsWithWideMark(CFile& file)
     WORD word = 0;
     return file.Read(&word, sizeof(word)) == sizeof(word) && word == WideMark;
 }
+
 /// A line ends at its line feed, if it has one.
 template <class Unit>
 std::basic_string_view<Unit> WithoutLineFeed(std::basic_string_view<Unit> line)

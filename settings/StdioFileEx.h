@@ -23,6 +23,11 @@ public:
     /// For a file without a mark, or one to be written that isn't UTF-16.
     explicit CStdioFileEx(int nCodePage) : codePage(nCodePage) {}
 
+    /// What is written for a character that the code page lacks: "#" unless told.
+    void SetFallbackChar(char character) { fallbackChar = character; }
+    /// Whether a mark is written at the start of a file that has one in its encoding: yes unless told.
+    void SetWriteMark(bool bWrite) { writeMark = bWrite; }
+
     /// A file that is opened for reading tells by its mark whether it is UTF-16; the flags don't matter then.
     bool Open(const std::wstring& fileName, UINT nOpenFlags, CFileException* pError = nullptr) override;
     ULONGLONG Seek(LONGLONG offset, UINT nFrom) override;

@@ -13,6 +13,7 @@
 namespace
 {
 constexpr DWORD dwMostMilliseconds = 30000;
+constexpr wchar_t MissingFile[] = L"\"C:\\none\\TrelvixBroker.exe\"";
 
 /// Each of these tests has the broker's process for itself.
 class BrokerLife : public CBrokerTest
@@ -38,9 +39,11 @@ TEST_F(BrokerLife, IsStartedOnceForAllClients)
 TEST_F(BrokerLife, LeavesWhenItHasHadNoClientForAWhile)
 {
     SetLinger(1);
+    auto spBroker = CreateBroker(); // or it might be gone before its process is opened
     m_store.WriteString(L"text", L"Test", L"a");
     const CUniqueKernelHandle process = OpenBrokerProcess();
     ASSERT_TRUE(process);
+    spBroker.Reset();
     EXPECT_TRUE(IsEnded(process, dwMostMilliseconds));
     EXPECT_EQ(0u, RunSettingsClient(L"READ Test a text")) << "and is started again";
 }
@@ -98,10 +101,40 @@ TEST_F(BrokerLife, MayBeKilledWhileAClientHoldsIt)
 
 TEST_F(BrokerLife, IsQuietlyDoneWithoutWhenItsFileIsMissing)
 {
-    SetServerCommand(L"\"C:\\none\\TrelvixBroker.exe\"");
+    SetServerCommand(MissingFile);
     EXPECT_EQ(L"", m_store.ReadString(L"Test", L"a"));
     m_store.WriteString(L"new", L"Test", L"a");
     EXPECT_EQ(L"new", m_store.ReadString(L"Test", L"a"));
+    EXPECT_EQ(0u, RunSettingsClient(L"READ Test a \"\""));
+}
+
+TEST_F(BrokerLife, HoldsBackFromOthersWhatWasWrittenWithoutIt)
+{
+    SetLinger(1);
+    auto spBroker = CreateBroker();
+    ASSERT_EQ(0u, RunSettingsClient(L"WRITE Test a old"));
+    const CUniqueKernelHandle process = OpenBrokerProcess();
+    ASSERT_TRUE(process);
+    spBroker.Reset();
+    ASSERT_TRUE(IsEnded(process, dwMostMilliseconds));
+    SetServerCommand(MissingFile);
+    m_store.WriteString(L"new", L"Test", L"a");
+    EXPECT_EQ(L"new", m_store.ReadString(L"Test", L"a"));
+    SetLinger(300);
+    EXPECT_EQ(0u, RunSettingsClient(L"READ Test a old"));
+    EXPECT_EQ(L"new", m_store.ReadString(L"Test", L"a"));
+}
+
+TEST_F(BrokerLife, IsQuietlyDoneWithoutWhenItIsNotRegistered)
+{
+    ASSERT_EQ(0u, RunProgram(GetShippedFile(L"TrelvixBroker.exe"), L"/UnregServer"));
+    IUnknown* pBroker = nullptr;
+    EXPECT_EQ(REGDB_E_CLASSNOTREG,
+              CoCreateInstance(CLSID_SettingsBroker, nullptr, CLSCTX_LOCAL_SERVER, IID_PPV_ARGS(&pBroker)));
+    EXPECT_EQ(L"", m_store.ReadString(L"Test", L"a"));
+    m_store.WriteString(L"new", L"Test", L"a");
+    EXPECT_EQ(L"new", m_store.ReadString(L"Test", L"a"));
+    ASSERT_EQ(0u, RunProgram(GetShippedFile(L"TrelvixBroker.exe"), L"/RegServer"));
     EXPECT_EQ(0u, RunSettingsClient(L"READ Test a \"\""));
 }
 
@@ -113,7 +146,7 @@ TEST_F(BrokerLife, IsQuietlyDoneWithoutWhenItLeavesBeforeItServes)
 
 TEST_F(BrokerLife, IsAskedAgainOnceItCanBeStarted)
 {
-    SetServerCommand(L"\"C:\\none\\TrelvixBroker.exe\"");
+    SetServerCommand(MissingFile);
     EXPECT_EQ(L"", m_store.ReadString(L"Test", L"a"));
     SetLinger(300);
     EXPECT_EQ(0u, RunSettingsClient(L"WRITE Test a new"));

@@ -169,6 +169,22 @@ TEST_F(BrokerRegistration, IsRefusedForAnUnknownSwitch)
     EXPECT_EQ(before, Dump(L"Software"));
 }
 
+TEST(BrokerProgram, CountsInPixelsOfTheScreen)
+{
+    const std::wstring strProgram = GetProgram();
+    ACTCTXW manifest = {};
+    manifest.cbSize = sizeof(manifest);
+    manifest.dwFlags = ACTCTX_FLAG_RESOURCE_NAME_VALID;
+    manifest.lpSource = strProgram.c_str();
+    manifest.lpResourceName = CREATEPROCESS_MANIFEST_RESOURCE_ID;
+    const HANDLE hContext = CreateActCtxW(&manifest);
+    ASSERT_NE(INVALID_HANDLE_VALUE, hContext);
+    wchar_t szAware[16] = {};
+    EXPECT_TRUE(QueryActCtxSettingsW(0, hContext, nullptr, L"dpiAware", szAware, ARRAYSIZE(szAware), nullptr));
+    EXPECT_STREQ(L"true/pm", szAware);
+    ReleaseActCtx(hContext);
+}
+
 TEST(BrokerTypeLibrary, TellsOfADualInterfaceWithExecuteInTheEighthSlot)
 {
     ComPtr<ITypeLib> spLibrary;

@@ -112,6 +112,7 @@ TEST_F(HostileClient, GetsNothingForOversizedTexts)
     EXPECT_TRUE(IsRefused(strLong.c_str(), m_strKey.c_str(), L"x"));
     EXPECT_TRUE(IsRefused(WriteVerb, (m_strKey + strLong).c_str(), L"x"));
     EXPECT_TRUE(IsRefused(WriteVerb, m_strKey.c_str(), strLong));
+    EXPECT_TRUE(IsRefused(ReadVerb, m_strKey.c_str(), strLong));
     EXPECT_TRUE(IsRefused(WriteVerb, m_strKey.c_str(), std::wstring(32769, L'x'))) << "one character over the limit";
 }
 

@@ -204,6 +204,17 @@ TEST_F(BrokerObject, RefusesOversizedVerbsAndKeys)
     EXPECT_TRUE(IsRegistryEmpty());
 }
 
+TEST_F(BrokerObject, RefusesToReadIntoAnUnsoundText)
+{
+    ASSERT_EQ(S_OK, Write(m_strKey, L"text"));
+    for (const UINT nBytes : {MaxSettingBytes + 2, 3u})
+    {
+        _bstr_t value = TextOfBytes(nBytes);
+        EXPECT_EQ(E_INVALIDARG, Read(m_strKey, value));
+        EXPECT_EQ(nBytes, SysStringByteLen(value.GetBSTR())) << "changed all the same";
+    }
+}
+
 TEST_F(BrokerObject, FailsForAStoredValueThatIsNoText)
 {
     const DWORD dwNumber = 7;

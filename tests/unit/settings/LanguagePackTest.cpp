@@ -63,15 +63,18 @@ TEST_F(LanguagePack, MayHaveTextsThatAreNotBuiltIn)
 
 TEST_F(LanguagePack, ReadsUtf16AndCodePageAlike)
 {
-    WritePack(L"GERMAN", "114:Deutsch\r\n# c\r\n263:a\\nb");
-    Init(m_folder.GetPath(), German);
-    EXPECT_EQ(L"Deutsch", TextOf(KnownId));
-    EXPECT_EQ(L"a\nb", TextOf(UnknownId));
-    ReleaseLanguage();
-    WritePack(L"GERMAN", AsMarkedUtf16(L"114:Deutsch\r\n# c\r\n263:a\\nb"));
-    InitLanguage(m_folder.GetPath(), German);
-    EXPECT_EQ(L"Deutsch", TextOf(KnownId));
-    EXPECT_EQ(L"a\nb", TextOf(UnknownId));
+    const std::string strNarrow = "114:caf\xE9\r\n# c\r\n263:a\\nb";
+    std::wstring strWide(strNarrow.size(), L'\0');
+    strWide.resize(MultiByteToWideChar(CP_ACP, 0, strNarrow.data(), static_cast<int>(strNarrow.size()), strWide.data(),
+                                       static_cast<int>(strWide.size())));
+    for (const std::string& strBytes : {strNarrow, AsMarkedUtf16(strWide)})
+    {
+        WritePack(L"GERMAN", strBytes);
+        InitLanguage(m_folder.GetPath(), German);
+        EXPECT_EQ(strWide.substr(4, strWide.find(L'\r') - 4), TextOf(KnownId));
+        EXPECT_EQ(L"a\nb", TextOf(UnknownId));
+        ReleaseLanguage();
+    }
 }
 
 TEST_F(LanguagePack, BlanksATextByAnEmptyEntry)

@@ -87,6 +87,17 @@ TEST_F(ReadPackStringTest, LooksInTheCurrentFolderFirst)
     EXPECT_EQ(L"installed", strText);
 }
 
+TEST_F(ReadPackStringTest, LooksInTheFolderOfTheLastHold)
+{
+    const CTemporaryFolder other;
+    other.Write(L"Languages\\FRENCH.lang", "114:last");
+    const std::wstring strFile = WritePack(L"FRENCH", "114:first");
+    Init(other.GetPath(), German);
+    std::wstring strText;
+    EXPECT_TRUE(ReadPackString(strFile, strText, 114));
+    EXPECT_EQ(L"last", strText);
+}
+
 TEST_F(ReadPackStringTest, TouchesNoLoadedText)
 {
     Read(L"114:Fran\xE7"

@@ -269,6 +269,30 @@ TEST_F(StdioFileEx, WritesASignForWhatTheCodePageLacks)
                              WesternCodePage));
 }
 
+TEST_F(StdioFileEx, WritesAnotherSignWhenTold)
+{
+    CStdioFileEx file(WesternCodePage);
+    file.SetFallbackChar('?');
+    ASSERT_TRUE(file.Open(m_folder.GetPath() + L"\\written", WriteFlags));
+    file.WriteString(L"a\x65E5");
+    file.Close();
+    EXPECT_EQ("a?", m_folder.Read(L"written"));
+}
+
+TEST_F(StdioFileEx, WritesNoMarkWhenToldNotTo)
+{
+    for (const auto& [nFlags, strBytes] :
+         {std::pair(CStdioFileEx::typeUnicode, AsUtf16(L"ab")), std::pair(0u, std::string("ab"))})
+    {
+        CStdioFileEx file(CP_UTF8);
+        file.SetWriteMark(false);
+        ASSERT_TRUE(file.Open(m_folder.GetPath() + L"\\written", WriteFlags | nFlags));
+        file.WriteString(L"ab");
+        file.Close();
+        EXPECT_EQ(strBytes, m_folder.Read(L"written"));
+    }
+}
+
 TEST_F(StdioFileEx, WritesNoMarkElsewhereThanAtTheStart)
 {
     const std::wstring strPath = m_folder.Write(L"written", "ab");

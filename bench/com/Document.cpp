@@ -33,6 +33,12 @@ void CDocument::Detach()
     m_spUIHandler.Reset();
 }
 
+void CDocument::Replace(CDocument& old)
+{
+    m_spUIHandler = std::move(old.m_spUIHandler);
+    old.Detach();
+}
+
 std::optional<Json> CDocument::Ask(const char* pszFunction, Json arguments)
 {
     if (!IsOnShow())
@@ -51,6 +57,8 @@ void CDocument::Tell(const char* pszFunction, Json arguments)
 
 bool CDocument::IsOpenToTop()
 {
+    if (m_pBrowser && m_pBrowser->GetPage().GetFrames().IsTop(m_frameId))
+        return true;
     if (!m_bOpenToTop)
         if (const auto answer = Ask("isOpenToTop"))
             m_bOpenToTop = answer->is_boolean() && answer->get<bool>();

@@ -59,6 +59,8 @@ public:
     bool IsOnShow() const;
     /// It no longer does; the handler that was set for it is released.
     void Detach();
+    /// Takes the place of one that was loaded again and isn't on show any more; the handler that was set for it goes on.
+    void Replace(CDocument& old);
 
     /// Whether the top document may look into this one.
     bool IsOpenToTop();

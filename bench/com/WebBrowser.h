@@ -114,6 +114,9 @@ private:
     /// The handler of the document on show, or the site in its place.
     Microsoft::WRL::ComPtr<IDocHostUIHandler> GetUIHandler();
 
+    /// Lets go of a document that the frame no longer shows.
+    void ForgetOldDocument(const std::string& frameId);
+
     /// An event whose arguments are the frame's browser and its address.
     void FireOfFrame(DISPID dispid, const std::string& frameId);
 

@@ -72,6 +72,8 @@ STDMETHODIMP CWindow::get_parent(IHTMLWindow2** ppParent)
         return E_POINTER;
     *ppParent = nullptr;
     return ComBoundary([&] {
+        if (!GetDocumentObject().IsOnShow())
+            return RPC_E_DISCONNECTED;
         const ComPtr<CDocument> spParent = GetDocumentObject().GetParent();
         return spParent ? spParent->GetWindowObject().CopyTo(ppParent) : get_self(ppParent);
     });
@@ -88,6 +90,8 @@ STDMETHODIMP CWindow::get_top(IHTMLWindow2** ppTop)
         return E_POINTER;
     *ppTop = nullptr;
     return ComBoundary([&] {
+        if (!GetDocumentObject().IsOnShow())
+            return RPC_E_DISCONNECTED;
         ComPtr<CDocument> spTop = &GetDocumentObject();
         while (ComPtr<CDocument> spParent = spTop->GetParent())
             spTop = std::move(spParent);

@@ -30,10 +30,9 @@ TEST_F(Page, SendsPicturesWhenItChanges)
     Load(L"/page.html");
     ASSERT_TRUE(PumpUntil([this] { return !m_window.m_picture.empty(); }));
     EXPECT_THAT(m_window.m_picture, StartsWith("\xff\xd8"));
-    PumpUntilQuiet();
-    m_window.m_picture.clear();
+    const std::string first = m_window.m_picture;
     Run(L"document.body.style.background = 'blue'");
-    EXPECT_TRUE(PumpUntil([this] { return !m_window.m_picture.empty(); }));
+    EXPECT_TRUE(PumpUntil([&] { return m_window.m_picture != first; }));
     EXPECT_THAT(GetPage().Capture(), StartsWith("\x89PNG"));
 }
 
@@ -83,7 +82,7 @@ TEST_F(Page, LeavesNewWindowsToTheView)
     TakeRequests();
     GetPage().Call("Runtime.evaluate", {{"expression", "void open('/next.html')"}, {"userGesture", true}});
     ASSERT_TRUE(PumpUntil([this] { return !m_window.m_windows.empty(); }));
-    PumpUntilQuiet();
+    Settle();
     EXPECT_THAT(m_window.m_windows, ElementsAre(UrlOf(L"/next.html")));
     EXPECT_THAT(TakeRequests(), testing::Not(testing::Contains(HasSubstr("/next.html"))));
 }
@@ -127,7 +126,7 @@ TEST_F(Page, TellsOnceThatItsProcessHasEndedAndAnswersNothingMore)
     Load(L"/page.html");
     Navigate(L"chrome://crash");
     ASSERT_TRUE(PumpUntil([this] { return !m_window.m_gone.empty(); }));
-    PumpUntilQuiet();
+    Settle();
     EXPECT_THAT(m_window.m_gone, SizeIs(1));
     EXPECT_FALSE(GetPage().IsOpen());
     EXPECT_TRUE(Run(L"1").is_null());

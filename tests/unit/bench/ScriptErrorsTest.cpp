@@ -4,6 +4,7 @@
 
 #include <comutil.h>
 #include <docobj.h>
+#include <exdispid.h>
 #include <gmock/gmock.h>
 #include <mshtmhst.h>
 #include <mshtml.h>
@@ -96,6 +97,14 @@ protected:
         Load(L"/page.html");
     }
 
+    void Click(POINT point)
+    {
+        GetPage().MouseEvent(EMouseEvent::Pressed, point, EMouseButton::Left, 1, InputNone);
+        GetPage().MouseEvent(EMouseEvent::Released, point, EMouseButton::Left, 1, InputNone);
+        // Its answer comes when the page has taken it and what came before it.
+        GetPage().Call("Input.dispatchMouseEvent", {{"type", "mouseMoved"}, {"x", point.x}, {"y", point.y}});
+    }
+
     ComPtr<CNotingHandler> SetHandler()
     {
         auto spHandler = MakeObject<CNotingHandler>();
@@ -153,14 +162,62 @@ TEST_F(ScriptErrors, StopThePagesScriptsWhenTheHandlerSaysSo)
     spHandler->m_bGoOn = false;
     Run(L"onclick = () => document.title = 'clicked'; setTimeout(fail)");
     ASSERT_TRUE(PumpUntil([&] { return !spHandler->m_properties.empty(); }));
-    PumpUntilQuiet();
-    GetPage().MouseEvent(EMouseEvent::Pressed, {300, 300}, EMouseButton::Left, 1, InputNone);
-    GetPage().MouseEvent(EMouseEvent::Released, {300, 300}, EMouseButton::Left, 1, InputNone);
-    PumpUntilQuiet();
+    Settle();
+    Click({300, 300});
     EXPECT_EQ(Run(L"document.title"), "Page");
     Serve("/next.html", "<title>Next</title><script>document.title += ' runs'</script>");
     Load(L"/next.html");
     EXPECT_EQ(Run(L"document.title"), "Next runs");
+}
+
+TEST_F(ScriptErrors, StopNoScriptsOfAPageThatCameWhileTheBoxWasOpen)
+{
+    LoadFailingPage();
+    Serve("/next.html", "<title>Next</title><script>onclick = () => document.title = 'Clicked'</script>");
+    m_window.m_bScriptsGoOn = false;
+    m_window.m_onScriptError = [this] { Load(L"/next.html"); };
+    Run(L"setTimeout(fail)");
+    ASSERT_TRUE(PumpUntil([this] { return m_window.m_strTitle == L"Next"; }));
+    Click({300, 300});
+    EXPECT_TRUE(PumpUntil([this] { return m_window.m_strTitle == L"Clicked"; }));
+}
+
+TEST_F(ScriptErrors, StopNoScriptsOfAPageThatIsAwaitedWhenTheBoxIsClosed)
+{
+    LoadFailingPage();
+    Serve("/next.html", "<title>Next</title><script>document.title = 'Next runs'</script>");
+    m_window.m_bScriptsGoOn = false;
+    m_window.m_onScriptError = [this] {
+        bool bAwaited = false;
+        GetRecorder().SetAction([&](DISPID dispid, const DISPPARAMS&) { bAwaited |= dispid == DISPID_DOWNLOADBEGIN; });
+        Navigate(UrlOf(L"/next.html"));
+        EXPECT_TRUE(PumpUntil([&] { return bAwaited; }));
+        GetRecorder().SetAction(nullptr);
+    };
+    Run(L"setTimeout(fail)");
+    EXPECT_TRUE(PumpUntil([this] { return m_window.m_strTitle == L"Next runs"; }));
+}
+
+TEST_F(ScriptErrors, GoToTheSameHandlerAfterAReload)
+{
+    LoadFailingPage();
+    const auto spHandler = SetHandler();
+    for (int nReload = 0; nReload < 2; ++nReload)
+        LoadBy([this] { m_spBrowser->Refresh(); });
+    Run(L"setTimeout(fail)");
+    EXPECT_TRUE(PumpUntil([&] { return !spHandler->m_properties.empty(); }));
+    EXPECT_THAT(m_window.m_scriptErrors, IsEmpty());
+}
+
+TEST_F(ScriptErrors, OfTheNextPageGoToTheBoxEvenWhenThatIsReloaded)
+{
+    LoadFailingPage();
+    const auto spHandler = SetHandler();
+    LoadFailingPage();
+    LoadBy([this] { m_spBrowser->Refresh(); });
+    Run(L"setTimeout(fail)");
+    EXPECT_TRUE(PumpUntil([this] { return m_window.m_scriptErrors.size() == 1; }));
+    EXPECT_THAT(spHandler->m_properties, IsEmpty());
 }
 
 TEST_F(ScriptErrors, HaveNoEventObjectAtOtherTimes)

@@ -83,13 +83,13 @@ STDMETHODIMP CDocument::put_title(BSTR bstrTitle)
     return ComBoundary([&] { return Ask("put", {"title", ToUtf8(GetString(bstrTitle))}) ? S_OK : GetFailure(); });
 }
 
-HRESULT CDocument::AskElement(const char* pszFunction, Json arguments, IHTMLElement** ppElement)
+HRESULT CDocument::TakeElement(IHTMLElement** ppElement, const std::function<std::optional<Json>()>& ask)
 {
     if (ppElement == nullptr)
         return E_POINTER;
     *ppElement = nullptr;
     return ComBoundary([&] {
-        const auto description = Ask(pszFunction, std::move(arguments));
+        const auto description = ask();
         if (!description)
             return GetFailure();
         return description->is_object() ? GetElement(*description).CopyTo(ppElement) : S_OK;
@@ -110,7 +110,11 @@ ComPtr<CElement> CDocument::GetElement(const Json& description)
 void CDocument::ForgetElement(int nElement)
 {
     m_elements.erase(nElement);
-    m_pMarkup->ReleaseElement(nElement);
+    // The element's destructor calls this.
+    ComBoundary([&] {
+        m_pMarkup->ReleaseElement(nElement);
+        return S_OK;
+    });
 }
 
 HRESULT CDocument::GetCollection(std::string kind, IHTMLElementCollection** ppElements)
@@ -124,17 +128,17 @@ HRESULT CDocument::GetCollection(std::string kind, IHTMLElementCollection** ppEl
 
 STDMETHODIMP CDocument::get_body(IHTMLElement** ppBody)
 {
-    return AskElement("elementOf", {0, "body"}, ppBody);
+    return AskElement(ppBody, "elementOf", 0, "body");
 }
 
 STDMETHODIMP CDocument::get_activeElement(IHTMLElement** ppElement)
 {
-    return AskElement("elementOf", {0, "activeElement"}, ppElement);
+    return AskElement(ppElement, "elementOf", 0, "activeElement");
 }
 
 STDMETHODIMP CDocument::get_documentElement(IHTMLElement** ppElement)
 {
-    return AskElement("elementOf", {0, "documentElement"}, ppElement);
+    return AskElement(ppElement, "elementOf", 0, "documentElement");
 }
 
 STDMETHODIMP CDocument::get_all(IHTMLElementCollection** ppAll)
@@ -144,7 +148,7 @@ STDMETHODIMP CDocument::get_all(IHTMLElementCollection** ppAll)
 
 STDMETHODIMP CDocument::getElementsByTagName(BSTR bstrTag, IHTMLElementCollection** ppElements)
 {
-    return GetCollection(ToUtf8(GetString(bstrTag)), ppElements);
+    return ComBoundary([&] { return GetCollection(ToUtf8(GetString(bstrTag)), ppElements); });
 }
 
 STDMETHODIMP CDocument::GetWindow(HWND* phWnd)

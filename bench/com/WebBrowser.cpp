@@ -44,7 +44,7 @@ void CWebBrowser::Close()
         spFrame->Detach();
 }
 
-std::string CWebBrowser::GetFrameId() const
+const std::string& CWebBrowser::GetFrameId() const
 {
     return m_page.GetTopFrameId();
 }

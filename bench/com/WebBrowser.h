@@ -97,7 +97,7 @@ public:
 
 private:
     CWebBrowser* GetBrowser() override { return m_pWindow ? this : nullptr; }
-    std::string GetFrameId() const override;
+    const std::string& GetFrameId() const override;
 
     bool OnBeforeNavigate(const CNavigation& navigation) override;
     void OnDownloadBegin(const std::string& frameId) override;

@@ -118,6 +118,33 @@ TEST_F(Documents, HaveStableObjectsForFramesAndElements)
     EXPECT_FALSE(QueryFor<IHTMLFrameSetElement>(spBody.Get()));
 }
 
+TEST_F(Documents, KeepTheIdentityOfEachKindOfFrame)
+{
+    Serve("/leaf.html", "<p>Leaf");
+    Serve("/other.html", "<p>Other");
+    Serve("/frames.html", "<frameset cols='50%,*'><frame src=/leaf.html><frame src=/leaf.html></frameset>");
+    Serve("/others.html", "<iframe src=/leaf.html></iframe><object type=text/html data=/leaf.html></object>");
+    for (const wchar_t* pszPage : {L"/frames.html", L"/others.html"})
+    {
+        Load(pszPage);
+        const auto spDocument = GetDocument();
+        for (size_t nFrame = 0; nFrame < 2; ++nFrame)
+        {
+            const ComPtr<IUnknown> spFrame = GetEmbedded(spDocument.Get())[nFrame];
+            ComPtr<IUnknown> spTold;
+            GetRecorder().SetAction([&](DISPID dispid, const DISPPARAMS& params) {
+                if (dispid == DISPID_BEFORENAVIGATE2)
+                    spTold = V_DISPATCH(&params.rgvarg[6]);
+            });
+            LoadBy([&] { Run(L"frames[" + std::to_wstring(nFrame) + L"].location = '/other.html'"); });
+            GetRecorder().SetAction(nullptr);
+            EXPECT_TRUE(IsSameObject(spFrame.Get(), spTold.Get())) << nFrame;
+            EXPECT_TRUE(IsSameObject(spFrame.Get(), GetEmbedded(spDocument.Get())[nFrame].Get())) << nFrame;
+            EXPECT_EQ(GetUrl(spFrame.Get()), L"/other.html");
+        }
+    }
+}
+
 TEST_F(Documents, GiveTheFramesetAsTheBodyOfAFrameset)
 {
     Serve("/leaf.html", "<p>Leaf");

@@ -36,6 +36,11 @@ public:
         ++m_nUpdates;
         return S_OK;
     }
+    STDMETHODIMP EnableModeless(BOOL bEnable) override
+    {
+        m_enabled.push_back(bEnable != FALSE);
+        return S_OK;
+    }
     STDMETHODIMP OnDocWindowActivate(BOOL bActive) override
     {
         m_bActive = bActive != FALSE;
@@ -78,6 +83,7 @@ public:
 
     int m_nAsked = 0;
     int m_nUpdates = 0;
+    std::vector<bool> m_enabled;
     bool m_bActive = false;
     POINT m_menuPoint = {};
     bool m_bGoOn = true;
@@ -153,6 +159,7 @@ TEST_F(ScriptErrors, GoToTheWindowsOwnBoxWithoutAHandlerOrWhenItRefuses)
     Run(L"setTimeout(fail)");
     EXPECT_TRUE(PumpUntil([this] { return m_window.m_scriptErrors.size() == 2; }));
     EXPECT_THAT(spHandler->m_properties, SizeIs(5));
+    EXPECT_THAT(spHandler->m_enabled, ElementsAre(false, true));
 }
 
 TEST_F(ScriptErrors, StopThePagesScriptsWhenTheHandlerSaysSo)

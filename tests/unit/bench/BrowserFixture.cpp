@@ -182,6 +182,15 @@ Json CBrowserTest::Run(const std::wstring& script)
     return GetPage().Evaluate(GetPage().GetTopFrameId(), script);
 }
 
+void CBrowserTest::Click(POINT point)
+{
+    GetPage().MouseEvent(EMouseEvent::Moved, point, EMouseButton::None, 0, InputNone);
+    GetPage().MouseEvent(EMouseEvent::Pressed, point, EMouseButton::Left, 1, InputNone);
+    GetPage().MouseEvent(EMouseEvent::Released, point, EMouseButton::Left, 1, InputNone);
+    // The page answers one input after the other.
+    GetPage().Call("Input.dispatchMouseEvent", {{"type", "mouseMoved"}, {"x", point.x}, {"y", point.y}});
+}
+
 std::vector<std::string> CBrowserTest::TakeEvents()
 {
     return std::exchange(m_spRecorder->m_lines, {});

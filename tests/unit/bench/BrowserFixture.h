@@ -105,6 +105,9 @@ protected:
     /// Runs a script in the page.
     Json Run(const std::wstring& script);
 
+    /// Clicks and waits until the page has taken it.
+    void Click(POINT point);
+
     CPage& GetPage() { return m_spBrowser->GetPage(); }
 
     /// The events since the last call, one a line: "Name frame /path". The frame is "top" or has the name that the page

@@ -14,13 +14,6 @@ using testing::StartsWith;
 
 class Page : public CBrowserTest
 {
-protected:
-    void Click(POINT point)
-    {
-        GetPage().MouseEvent(EMouseEvent::Moved, point, EMouseButton::None, 0, InputNone);
-        GetPage().MouseEvent(EMouseEvent::Pressed, point, EMouseButton::Left, 1, InputNone);
-        GetPage().MouseEvent(EMouseEvent::Released, point, EMouseButton::Left, 1, InputNone);
-    }
 };
 
 TEST_F(Page, SendsPicturesWhenItChanges)

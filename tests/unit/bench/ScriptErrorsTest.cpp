@@ -103,14 +103,6 @@ protected:
         Load(L"/page.html");
     }
 
-    void Click(POINT point)
-    {
-        GetPage().MouseEvent(EMouseEvent::Pressed, point, EMouseButton::Left, 1, InputNone);
-        GetPage().MouseEvent(EMouseEvent::Released, point, EMouseButton::Left, 1, InputNone);
-        // Its answer comes when the page has taken it and what came before it.
-        GetPage().Call("Input.dispatchMouseEvent", {{"type", "mouseMoved"}, {"x", point.x}, {"y", point.y}});
-    }
-
     ComPtr<CNotingHandler> SetHandler()
     {
         auto spHandler = MakeObject<CNotingHandler>();

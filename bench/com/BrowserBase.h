@@ -39,7 +39,7 @@ protected:
 
     /// The browser of the whole page, null when the frame has gone.
     virtual CWebBrowser* GetBrowser() = 0;
-    virtual std::string GetFrameId() const = 0;
+    virtual const std::string& GetFrameId() const = 0;
 
 private:
     CPage* GetPage();

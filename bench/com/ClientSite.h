@@ -30,6 +30,7 @@ public:
     STDMETHODIMP ShowContextMenu(DWORD dwKind, POINT* pPoint, IUnknown* pTarget, IDispatch* pObject) override;
     STDMETHODIMP GetHostInfo(DOCHOSTUIINFO* pInfo) override;
     STDMETHODIMP UpdateUI() override { return S_OK; }
+    STDMETHODIMP EnableModeless(BOOL) override { return S_OK; }
     STDMETHODIMP OnDocWindowActivate(BOOL) override { return S_OK; }
     STDMETHODIMP TranslateAccelerator(LPMSG pMsg, const GUID* pGroup, DWORD nCommand) override;
     STDMETHODIMP GetExternal(IDispatch** ppExternal) override;

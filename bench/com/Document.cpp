@@ -33,6 +33,12 @@ void CDocument::Detach()
     m_spUIHandler.Reset();
 }
 
+void CDocument::Replace(CDocument& old)
+{
+    m_spUIHandler = std::move(old.m_spUIHandler);
+    old.Detach();
+}
+
 std::optional<Json> CDocument::Ask(const char* pszFunction, Json arguments)
 {
     if (!IsOnShow())
@@ -56,6 +62,8 @@ void CDocument::ForgetSearch()
 
 bool CDocument::IsOpenToTop()
 {
+    if (m_pBrowser && m_pBrowser->GetPage().GetFrames().IsTop(m_frameId))
+        return true;
     if (!m_bOpenToTop)
         if (const auto answer = Ask("isOpenToTop"))
             m_bOpenToTop = answer->is_boolean() && answer->get<bool>();
@@ -80,13 +88,13 @@ STDMETHODIMP CDocument::put_title(BSTR bstrTitle)
     return ComBoundary([&] { return Ask("put", {"title", ToUtf8(GetString(bstrTitle))}) ? S_OK : GetFailure(); });
 }
 
-HRESULT CDocument::AskElement(const char* pszFunction, Json arguments, IHTMLElement** ppElement)
+HRESULT CDocument::TakeElement(IHTMLElement** ppElement, const std::function<std::optional<Json>()>& ask)
 {
     if (ppElement == nullptr)
         return E_POINTER;
     *ppElement = nullptr;
     return ComBoundary([&] {
-        const auto description = Ask(pszFunction, std::move(arguments));
+        const auto description = ask();
         if (!description)
             return GetFailure();
         return description->is_object() ? GetElement(*description).CopyTo(ppElement) : S_OK;
@@ -107,7 +115,11 @@ ComPtr<CElement> CDocument::GetElement(const Json& description)
 void CDocument::ForgetElement(int nElement)
 {
     m_elements.erase(nElement);
-    m_pMarkup->ReleaseElement(nElement);
+    // The element's destructor calls this.
+    ComBoundary([&] {
+        m_pMarkup->ReleaseElement(nElement);
+        return S_OK;
+    });
 }
 
 HRESULT CDocument::GetCollection(std::string kind, IHTMLElementCollection** ppElements)
@@ -121,17 +133,17 @@ HRESULT CDocument::GetCollection(std::string kind, IHTMLElementCollection** ppEl
 
 STDMETHODIMP CDocument::get_body(IHTMLElement** ppBody)
 {
-    return AskElement("elementOf", {0, "body"}, ppBody);
+    return AskElement(ppBody, "elementOf", 0, "body");
 }
 
 STDMETHODIMP CDocument::get_activeElement(IHTMLElement** ppElement)
 {
-    return AskElement("elementOf", {0, "activeElement"}, ppElement);
+    return AskElement(ppElement, "elementOf", 0, "activeElement");
 }
 
 STDMETHODIMP CDocument::get_documentElement(IHTMLElement** ppElement)
 {
-    return AskElement("elementOf", {0, "documentElement"}, ppElement);
+    return AskElement(ppElement, "elementOf", 0, "documentElement");
 }
 
 STDMETHODIMP CDocument::get_all(IHTMLElementCollection** ppAll)
@@ -141,7 +153,7 @@ STDMETHODIMP CDocument::get_all(IHTMLElementCollection** ppAll)
 
 STDMETHODIMP CDocument::getElementsByTagName(BSTR bstrTag, IHTMLElementCollection** ppElements)
 {
-    return GetCollection(ToUtf8(GetString(bstrTag)), ppElements);
+    return ComBoundary([&] { return GetCollection(ToUtf8(GetString(bstrTag)), ppElements); });
 }
 
 STDMETHODIMP CDocument::GetWindow(HWND* phWnd)

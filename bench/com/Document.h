@@ -17,6 +17,7 @@
 #include <oleidl.h>
 #include <wrl/client.h>
 
+#include <functional>
 #include <map>
 #include <memory>
 #include <optional>
@@ -59,6 +60,9 @@ public:
     bool IsOnShow() const;
     /// It no longer does; the handler that was set for it is released.
     void Detach();
+    /// Takes the place of one that was loaded again and isn't on show any more; the handler that was set for it goes
+    /// on.
+    void Replace(CDocument& old);
 
     /// Whether the top document may look into this one.
     bool IsOpenToTop();
@@ -70,7 +74,11 @@ public:
     /// Why there was no answer.
     HRESULT GetFailure() const { return IsOnShow() ? E_FAIL : RPC_E_DISCONNECTED; }
     /// Asks for an element; none is a success with null.
-    HRESULT AskElement(const char* pszFunction, Json arguments, IHTMLElement** ppElement);
+    template <class... Arguments>
+    HRESULT AskElement(IHTMLElement** ppElement, const char* pszFunction, const Arguments&... arguments)
+    {
+        return TakeElement(ppElement, [&] { return Ask(pszFunction, Json::array({arguments...})); });
+    }
 
     /// The object of an element as page.js describes it, the same one as long as anyone holds it.
     Microsoft::WRL::ComPtr<CElement> GetElement(const Json& description);
@@ -136,6 +144,7 @@ public:
     STDMETHODIMP SetUIHandler(IDocHostUIHandler* pHandler) override;
 
 private:
+    HRESULT TakeElement(IHTMLElement** ppElement, const std::function<std::optional<Json>()>& ask);
     HRESULT GetText(const char* pszName, BSTR* pbstr);
     HRESULT InsertBetween(int nElement, int nStart, int nEnd);
     HRESULT GetCollection(std::string kind, IHTMLElementCollection** ppElements);

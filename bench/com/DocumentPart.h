@@ -21,41 +21,47 @@ protected:
     CDocument& GetDocumentObject() const { return *m_spDocument.Get(); }
 
     /// Asks page.js and hands the answer on; without one the result says why.
-    template <class Take>
-    HRESULT Ask(const char* pszFunction, Json arguments, Take take) const
+    template <class Take, class... Arguments>
+    HRESULT Ask(const char* pszFunction, Take take, const Arguments&... arguments) const
     {
         return ComBoundary([&]() -> HRESULT {
-            const auto answer = m_spDocument->Ask(pszFunction, std::move(arguments));
+            const auto answer = m_spDocument->Ask(pszFunction, Json::array({arguments...}));
             return answer ? take(*answer) : m_spDocument->GetFailure();
         });
     }
 
-    HRESULT AskText(const char* pszFunction, Json arguments, BSTR* pbstr) const
+    template <class... Arguments>
+    HRESULT AskText(BSTR* pbstr, const char* pszFunction, const Arguments&... arguments) const
     {
         if (pbstr == nullptr)
             return E_POINTER;
         *pbstr = nullptr;
-        return Ask(pszFunction, std::move(arguments), [&](const Json& answer) {
+        const auto take = [&](const Json& answer) {
             return answer.is_string() ? CopyText(FromUtf8(answer.get<std::string>()), pbstr) : S_OK;
-        });
+        };
+        return Ask(pszFunction, take, arguments...);
     }
 
-    HRESULT AskNumber(const char* pszFunction, Json arguments, long* pn) const
+    template <class... Arguments>
+    HRESULT AskNumber(long* pn, const char* pszFunction, const Arguments&... arguments) const
     {
         if (pn == nullptr)
             return E_POINTER;
         *pn = 0;
-        return Ask(pszFunction, std::move(arguments), [&](const Json& answer) {
+        const auto take = [&](const Json& answer) {
             *pn = answer.is_number() ? static_cast<long>(answer.get<double>()) : 0;
             return S_OK;
-        });
+        };
+        return Ask(pszFunction, take, arguments...);
     }
 
     /// For what may change the page.
-    HRESULT Tell(const char* pszFunction, Json arguments) const
+    template <class... Arguments>
+    HRESULT Tell(const char* pszFunction, const Arguments&... arguments) const
     {
         m_spDocument->ForgetSearch();
-        return Ask(pszFunction, std::move(arguments), [](const Json&) { return S_OK; });
+        return Ask(
+            pszFunction, [](const Json&) { return S_OK; }, arguments...);
     }
 
 private:

@@ -64,7 +64,13 @@ bool CDocument::ReportScriptError(const CScriptError& error)
                                         &in, &goOn) == S_OK;
     };
     if (!isHandledBy(spTarget.Get()))
+    {
+        // The site opens a box.
+        const ComPtr<IDocHostUIHandler> spHandler = GetUIHandler();
+        spHandler->EnableModeless(FALSE);
         isHandledBy(spSite.Get());
+        spHandler->EnableModeless(TRUE);
+    }
     m_spEvent = spOuterEvent;
     return V_VT(&goOn) != VT_BOOL || V_BOOL(&goOn) != VARIANT_FALSE;
 }

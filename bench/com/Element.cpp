@@ -62,13 +62,13 @@ int CElement::NumberOf(IUnknown* pElement, const CDocument& document)
 
 HRESULT CElement::PutText(const char* pszName, BSTR bstr) const
 {
-    return ComBoundary([&] { return Tell("putOf", {m_nElement, pszName, ToUtf8(GetString(bstr))}); });
+    return ComBoundary([&] { return Tell("putOf", m_nElement, pszName, ToUtf8(GetString(bstr))); });
 }
 
 STDMETHODIMP CElement::setAttribute(BSTR bstrName, VARIANT vValue, LONG)
 {
     return ComBoundary([&] {
-        return Tell("setAttribute", {m_nElement, ToUtf8(GetString(bstrName)), ToUtf8(GetOptionalText(&vValue))});
+        return Tell("setAttribute", m_nElement, ToUtf8(GetString(bstrName)), ToUtf8(GetOptionalText(&vValue)));
     });
 }
 
@@ -78,16 +78,17 @@ STDMETHODIMP CElement::getAttribute(BSTR bstrName, LONG, VARIANT* pvValue)
         return E_POINTER;
     VariantInit(pvValue);
     return ComBoundary([&] {
-        return Ask("getAttribute", {m_nElement, ToUtf8(GetString(bstrName))}, [&](const Json& answer) {
+        const auto take = [&](const Json& answer) {
             V_VT(pvValue) = answer.is_string() ? VT_BSTR : VT_NULL;
             return answer.is_string() ? CopyText(FromUtf8(answer.get<std::string>()), &V_BSTR(pvValue)) : S_OK;
-        });
+        };
+        return Ask("getAttribute", take, m_nElement, ToUtf8(GetString(bstrName)));
     });
 }
 
 STDMETHODIMP CElement::get_parentElement(IHTMLElement** ppParent)
 {
-    return GetDocumentObject().AskElement("elementOf", {m_nElement, "parentElement"}, ppParent);
+    return GetDocumentObject().AskElement(ppParent, "elementOf", m_nElement, "parentElement");
 }
 
 STDMETHODIMP CElement::get_document(IDispatch** ppDocument)
@@ -127,9 +128,11 @@ STDMETHODIMP CElement::getElementsByTagName(BSTR bstrTag, IHTMLElementCollection
     if (ppElements == nullptr)
         return E_POINTER;
     *ppElements = nullptr;
-    ComPtr<IDispatch> spElements;
-    const HRESULT hr = GetCollection(ToUtf8(GetString(bstrTag)), &spElements);
-    return FAILED(hr) ? hr : spElements.CopyTo(ppElements);
+    return ComBoundary([&] {
+        ComPtr<IDispatch> spElements;
+        const HRESULT hr = GetCollection(ToUtf8(GetString(bstrTag)), &spElements);
+        return FAILED(hr) ? hr : spElements.CopyTo(ppElements);
+    });
 }
 
 STDMETHODIMP CElement::contains(IHTMLElement* pElement, VARIANT_BOOL* pbContains)
@@ -137,16 +140,16 @@ STDMETHODIMP CElement::contains(IHTMLElement* pElement, VARIANT_BOOL* pbContains
     if (pbContains == nullptr)
         return E_POINTER;
     *pbContains = VARIANT_FALSE;
-    const int nOther = NumberOf(pElement, GetDocumentObject());
-    return Ask("contains", {m_nElement, nOther}, [&](const Json& answer) {
+    const auto take = [&](const Json& answer) {
         *pbContains = answer.is_boolean() && answer.get<bool>() ? VARIANT_TRUE : VARIANT_FALSE;
         return S_OK;
-    });
+    };
+    return Ask("contains", take, m_nElement, NumberOf(pElement, GetDocumentObject()));
 }
 
 STDMETHODIMP CElement::click()
 {
-    return Tell("click", {m_nElement});
+    return Tell("click", m_nElement);
 }
 
 STDMETHODIMP CElement::get_contentWindow(IHTMLWindow2** ppWindow)

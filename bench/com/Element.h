@@ -83,10 +83,10 @@ public:
     STDMETHODIMP get_contentWindow(IHTMLWindow2** ppWindow) override;
 
 private:
-    HRESULT GetText(const char* pszName, BSTR* pbstr) const { return AskText("getOf", {m_nElement, pszName}, pbstr); }
-    HRESULT GetNumberOf(const char* pszName, long* pn) const { return AskNumber("getOf", {m_nElement, pszName}, pn); }
+    HRESULT GetText(const char* pszName, BSTR* pbstr) const { return AskText(pbstr, "getOf", m_nElement, pszName); }
+    HRESULT GetNumberOf(const char* pszName, long* pn) const { return AskNumber(pn, "getOf", m_nElement, pszName); }
     HRESULT PutText(const char* pszName, BSTR bstr) const;
-    HRESULT PutNumber(const char* pszName, long n) const { return Tell("putOf", {m_nElement, pszName, n}); }
+    HRESULT PutNumber(const char* pszName, long n) const { return Tell("putOf", m_nElement, pszName, n); }
     HRESULT GetStyle(bool bRuntime, IHTMLStyle** ppStyle);
     HRESULT GetCollection(std::string kind, IDispatch** ppElements);
 

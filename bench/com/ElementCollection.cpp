@@ -16,7 +16,7 @@ int CElementCollection::GetOwnerNumber() const
 
 STDMETHODIMP CElementCollection::get_length(long* pnLength)
 {
-    return AskNumber("count", {GetOwnerNumber(), m_kind}, pnLength);
+    return AskNumber(pnLength, "count", GetOwnerNumber(), m_kind);
 }
 
 STDMETHODIMP CElementCollection::item(VARIANT vName, VARIANT vIndex, IDispatch** ppElement)
@@ -27,14 +27,10 @@ STDMETHODIMP CElementCollection::item(VARIANT vName, VARIANT vIndex, IDispatch**
     const bool bByName = V_VT(&vName) == VT_BSTR;
     const VARIANT& number = V_VT(&vName) == VT_EMPTY || V_VT(&vName) == VT_ERROR ? vIndex : vName;
     return ComBoundary([&] {
-        Json arguments = {GetOwnerNumber(), m_kind};
-        if (bByName)
-            arguments.push_back(ToUtf8(GetOptionalText(&vName)));
-        else
-            arguments.push_back(GetOptionalNumber(&number));
+        const Json which = bByName ? Json(ToUtf8(GetOptionalText(&vName))) : Json(GetOptionalNumber(&number));
         Microsoft::WRL::ComPtr<IHTMLElement> spElement;
         const HRESULT hr =
-            GetDocumentObject().AskElement(bByName ? "namedItem" : "item", std::move(arguments), &spElement);
+            GetDocumentObject().AskElement(&spElement, bByName ? "namedItem" : "item", GetOwnerNumber(), m_kind, which);
         return FAILED(hr) || !spElement ? hr : spElement.CopyTo(ppElement);
     });
 }

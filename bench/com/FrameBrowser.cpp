@@ -1,6 +1,7 @@
 #include "bench/com/FrameBrowser.h"
 
 #include "bench/com/WebBrowser.h"
+#include "framework/ComBoundary.h"
 
 #include <shlguid.h>
 
@@ -9,8 +10,10 @@ STDMETHODIMP CFrameBrowser::get_Parent(IDispatch** ppParent)
     if (ppParent == nullptr)
         return E_POINTER;
     *ppParent = nullptr;
-    const CPageFrame* const pFrame = m_pBrowser ? m_pBrowser->GetPage().GetFrames().Find(m_frameId) : nullptr;
-    return pFrame ? m_pBrowser->GetDocument(pFrame->strParentId, ppParent) : RPC_E_DISCONNECTED;
+    return ComBoundary([&] {
+        const CPageFrame* const pFrame = m_pBrowser ? m_pBrowser->GetPage().GetFrames().Find(m_frameId) : nullptr;
+        return pFrame ? m_pBrowser->GetDocument(pFrame->strParentId, ppParent) : RPC_E_DISCONNECTED;
+    });
 }
 
 STDMETHODIMP CFrameBrowser::QueryService(REFGUID service, REFIID iid, void** ppv)

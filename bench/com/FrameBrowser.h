@@ -35,7 +35,7 @@ public:
 
 private:
     CWebBrowser* GetBrowser() override { return m_pBrowser; }
-    std::string GetFrameId() const override { return m_frameId; }
+    const std::string& GetFrameId() const override { return m_frameId; }
 
     CWebBrowser* m_pBrowser; ///< owns this object while the frame lives
     std::string m_frameId;

@@ -11,20 +11,19 @@ CStyle::~CStyle() = default;
 
 STDMETHODIMP CStyle::put_cssText(BSTR bstrText)
 {
-    return ComBoundary([&] {
-        return Tell("putStyle", {m_spElement->GetNumber(), "cssText", ToUtf8(GetString(bstrText)), m_bRuntime});
-    });
+    return ComBoundary(
+        [&] { return Tell("putStyle", m_spElement->GetNumber(), "cssText", ToUtf8(GetString(bstrText)), m_bRuntime); });
 }
 
 STDMETHODIMP CStyle::get_cssText(BSTR* pbstrText)
 {
-    return AskText("getStyle", {m_spElement->GetNumber(), "cssText", m_bRuntime}, pbstrText);
+    return AskText(pbstrText, "getStyle", m_spElement->GetNumber(), "cssText", m_bRuntime);
 }
 
 STDMETHODIMP CStyle::put_zoom(VARIANT vZoom)
 {
     return ComBoundary([&] {
-        return Tell("putStyle", {m_spElement->GetNumber(), "zoom", ToUtf8(GetOptionalText(&vZoom)), m_bRuntime});
+        return Tell("putStyle", m_spElement->GetNumber(), "zoom", ToUtf8(GetOptionalText(&vZoom)), m_bRuntime);
     });
 }
 
@@ -34,7 +33,7 @@ STDMETHODIMP CStyle::get_zoom(VARIANT* pvZoom)
         return E_POINTER;
     VariantInit(pvZoom);
     BSTR bstrZoom = nullptr;
-    const HRESULT hr = AskText("getStyle", {m_spElement->GetNumber(), "zoom", m_bRuntime}, &bstrZoom);
+    const HRESULT hr = AskText(&bstrZoom, "getStyle", m_spElement->GetNumber(), "zoom", m_bRuntime);
     if (FAILED(hr))
         return hr;
     V_VT(pvZoom) = VT_BSTR;

@@ -45,7 +45,7 @@ void CWebBrowser::Close()
         spFrame->Detach();
 }
 
-std::string CWebBrowser::GetFrameId() const
+const std::string& CWebBrowser::GetFrameId() const
 {
     return m_page.GetTopFrameId();
 }
@@ -64,12 +64,16 @@ ComPtr<IWebBrowser2> CWebBrowser::GetFrameBrowser(const std::string& frameId)
 
 ComPtr<CDocument> CWebBrowser::GetDocumentObject(const CPageFrame& frame)
 {
-    ComPtr<CDocument>& spDocument = m_documents[frame.strId];
-    if (spDocument && !spDocument->IsOnShow())
-        std::exchange(spDocument, nullptr)->Detach();
-    if (!spDocument)
-        spDocument = MakeObject<CDocument>(*this, frame);
-    return spDocument;
+    const ComPtr<CDocument> spKnown = m_documents[frame.strId];
+    if (spKnown && spKnown->IsOnShow())
+        return spKnown;
+    const auto spNew = MakeObject<CDocument>(*this, frame);
+    m_documents[frame.strId] = spNew;
+    if (spKnown && frame.bReload)
+        spNew->Replace(*spKnown.Get());
+    else if (spKnown)
+        spKnown->Detach();
+    return spNew;
 }
 
 ComPtr<CClientSite> CWebBrowser::GetClientSite() const

@@ -97,7 +97,7 @@ public:
 
 private:
     CWebBrowser* GetBrowser() override { return m_pWindow ? this : nullptr; }
-    std::string GetFrameId() const override;
+    const std::string& GetFrameId() const override;
 
     bool OnBeforeNavigate(const CNavigation& navigation) override;
     void OnDownloadBegin(const std::string& frameId) override;
@@ -113,6 +113,9 @@ private:
 
     /// The handler of the document on show, or the site in its place.
     Microsoft::WRL::ComPtr<IDocHostUIHandler> GetUIHandler();
+
+    /// Lets go of a document that the frame no longer shows.
+    void ForgetOldDocument(const std::string& frameId);
 
     /// An event whose arguments are the frame's browser and its address.
     void FireOfFrame(DISPID dispid, const std::string& frameId);

@@ -8,6 +8,8 @@
 
 #include <algorithm>
 
+using Microsoft::WRL::ComPtr;
+
 namespace
 {
 VARIANT OfObject(IDispatch* pObject)
@@ -70,6 +72,7 @@ void CWebBrowser::OnDownloadComplete(const std::string&)
 
 void CWebBrowser::OnNavigateComplete(const std::string& frameId)
 {
+    ForgetOldDocument(frameId);
     FireOfFrame(DISPID_NAVIGATECOMPLETE2, frameId);
 }
 
@@ -104,10 +107,16 @@ void CWebBrowser::OnNavigateError(const std::string& frameId, const std::wstring
                                             ByReference(status), ByReference(bCancel)});
 }
 
+void CWebBrowser::ForgetOldDocument(const std::string& frameId)
+{
+    const auto known = m_documents.find(frameId);
+    if (known != m_documents.end() && !known->second->IsOnShow())
+        m_documents.extract(known).mapped()->Detach();
+}
+
 void CWebBrowser::OnFrameGone(const std::string& frameId)
 {
-    if (const auto gone = m_documents.extract(frameId))
-        gone.mapped()->Detach();
+    ForgetOldDocument(frameId);
     if (const auto gone = m_frames.extract(frameId))
         gone.mapped()->Detach();
 }
@@ -138,6 +147,10 @@ void CWebBrowser::OnHistoryChanged()
 void CWebBrowser::OnScriptError(const CScriptError& error)
 {
     const CPageFrame* const pFrame = m_page.GetFrames().Find(error.strFrameId);
-    if (pFrame != nullptr && !GetDocumentObject(*pFrame)->ReportScriptError(error))
+    if (pFrame == nullptr)
+        return;
+    // Whoever was told may have shown another page meanwhile.
+    const ComPtr<CDocument> spDocument = GetDocumentObject(*pFrame);
+    if (!spDocument->ReportScriptError(error) && spDocument->IsOnShow())
         m_page.StopScripts();
 }

@@ -26,21 +26,22 @@ STDMETHODIMP CWindow::item(VARIANT* pvIndex, VARIANT* pvWindow)
     if (pvIndex == nullptr || pvWindow == nullptr)
         return E_POINTER;
     VariantInit(pvWindow);
-    Json which = GetOptionalNumber(pvIndex);
-    if (V_VT(pvIndex) == VT_BSTR)
-        which = ToUtf8(GetOptionalText(pvIndex));
-    return Ask("frame", {which}, [&](const Json& element) -> HRESULT {
+    const auto take = [&](const Json& element) -> HRESULT {
         const ComPtr<CWindow> spWindow = GetDocumentObject().GetWindowOfElement(element.get<int>());
         if (!spWindow)
             return DISP_E_MEMBERNOTFOUND;
         V_VT(pvWindow) = VT_DISPATCH;
         return spWindow.CopyTo(&V_DISPATCH(pvWindow));
+    };
+    return ComBoundary([&] {
+        const bool bByName = V_VT(pvIndex) == VT_BSTR;
+        return Ask("frame", take, bByName ? Json(ToUtf8(GetOptionalText(pvIndex))) : Json(GetOptionalNumber(pvIndex)));
     });
 }
 
 STDMETHODIMP CWindow::get_length(long* pnLength)
 {
-    return AskNumber("frameCount", Json::array(), pnLength);
+    return AskNumber(pnLength, "frameCount");
 }
 
 STDMETHODIMP CWindow::get_frames(IHTMLFramesCollection2** ppFrames)
@@ -63,7 +64,7 @@ STDMETHODIMP CWindow::get_name(BSTR* pbstrName)
         return E_POINTER;
     *pbstrName = nullptr;
     const HRESULT hr = CheckAccess();
-    return FAILED(hr) ? hr : AskText("getOfWindow", {"name"}, pbstrName);
+    return FAILED(hr) ? hr : AskText(pbstrName, "getOfWindow", "name");
 }
 
 STDMETHODIMP CWindow::get_parent(IHTMLWindow2** ppParent)
@@ -72,6 +73,8 @@ STDMETHODIMP CWindow::get_parent(IHTMLWindow2** ppParent)
         return E_POINTER;
     *ppParent = nullptr;
     return ComBoundary([&] {
+        if (!GetDocumentObject().IsOnShow())
+            return RPC_E_DISCONNECTED;
         const ComPtr<CDocument> spParent = GetDocumentObject().GetParent();
         return spParent ? spParent->GetWindowObject().CopyTo(ppParent) : get_self(ppParent);
     });
@@ -88,6 +91,8 @@ STDMETHODIMP CWindow::get_top(IHTMLWindow2** ppTop)
         return E_POINTER;
     *ppTop = nullptr;
     return ComBoundary([&] {
+        if (!GetDocumentObject().IsOnShow())
+            return RPC_E_DISCONNECTED;
         ComPtr<CDocument> spTop = &GetDocumentObject();
         while (ComPtr<CDocument> spParent = spTop->GetParent())
             spTop = std::move(spParent);
@@ -109,9 +114,11 @@ STDMETHODIMP CWindow::QueryService(REFGUID service, REFIID iid, void** ppv)
     if (ppv == nullptr)
         return E_POINTER;
     *ppv = nullptr;
-    const ComPtr<IWebBrowser2> spBrowser = GetDocumentObject().GetFrameBrowser();
-    ComPtr<IServiceProvider> spServices;
-    if (!spBrowser || FAILED(spBrowser.As(&spServices)))
-        return RPC_E_DISCONNECTED;
-    return spServices->QueryService(service, iid, ppv);
+    return ComBoundary([&]() -> HRESULT {
+        const ComPtr<IWebBrowser2> spBrowser = GetDocumentObject().GetFrameBrowser();
+        ComPtr<IServiceProvider> spServices;
+        if (!spBrowser || FAILED(spBrowser.As(&spServices)))
+            return RPC_E_DISCONNECTED;
+        return spServices->QueryService(service, iid, ppv);
+    });
 }

@@ -23,6 +23,7 @@ struct CPageFrame
     ELoadState eState = ELoadState::Complete;
     int nDocument = 0; ///< counts the documents that the frame has shown
 
+    bool bReloadAsked = false; ///< the last navigation asked for the same document again; it may yet be cancelled
     bool bReload = false;      ///< the load under way fetches the same document again
     bool bDownloading = false; ///< a begin was told that has no end yet
     bool bCommitted = false;   ///< the load under way has brought its document

@@ -34,27 +34,27 @@ bool CLoadTracker::OnStartedNavigating(const std::string& frameId, const std::ws
     if (pFrame == nullptr || IsWithinDocument(type))
         return true;
     const bool bOwn = std::exchange(m_ownFrameId, {}) == frameId;
-    pFrame->bReload = IsReload(type);
-    pFrame->bCommitted = false;
-    if (!pFrame->bReload && IsFetchedUrl(url))
+    // Until nobody can cancel it any more, the load under way goes on.
+    pFrame->bReloadAsked = IsReload(type);
+    if (!pFrame->bReloadAsked && IsFetchedUrl(url))
         return true;
-    if (!pFrame->bReload && !bOwn && !m_events.OnBeforeNavigate({.strFrameId = frameId, .strUrl = url}))
+    if (!pFrame->bReloadAsked && !bOwn && !m_events.OnBeforeNavigate({.strFrameId = frameId, .strUrl = url}))
         return false;
-    Begin(frameId);
+    BeginAsked(frameId);
     return true;
 }
 
 bool CLoadTracker::OnRequest(const CNavigation& navigation)
 {
     const CPageFrame* const pFrame = m_frames.Find(navigation.strFrameId);
-    return pFrame == nullptr || pFrame->bReload || m_events.OnBeforeNavigate(navigation);
+    return pFrame == nullptr || pFrame->bReloadAsked || m_events.OnBeforeNavigate(navigation);
 }
 
 void CLoadTracker::OnRequestAllowed(const std::string& frameId)
 {
     const CPageFrame* const pFrame = m_frames.Find(frameId);
-    if (pFrame != nullptr && !pFrame->bReload)
-        Begin(frameId);
+    if (pFrame != nullptr && !pFrame->bReloadAsked)
+        BeginAsked(frameId);
 }
 
 void CLoadTracker::OnCommitted(const std::string& frameId, const std::wstring& url, const std::wstring& name,
@@ -70,8 +70,10 @@ void CLoadTracker::OnCommitted(const std::string& frameId, const std::wstring& u
     pFrame->strUrl = unreachableUrl.empty() ? url : unreachableUrl;
     pFrame->strName = name;
     pFrame->bCommitted = true;
-    const bool bReload = pFrame->bReload;
     const bool bUnannounced = !pFrame->bDownloading;
+    if (bUnannounced)
+        pFrame->bReload = false;
+    const bool bReload = pFrame->bReload;
     if (bUnannounced)
         Announce(frameId, url);
     else
@@ -132,6 +134,16 @@ void CLoadTracker::OnDetached(const std::string& frameId)
             m_events.OnDownloadComplete(frame.strId);
         m_events.OnFrameGone(frame.strId);
     }
+}
+
+void CLoadTracker::BeginAsked(const std::string& frameId)
+{
+    if (CPageFrame* const pFrame = m_frames.Find(frameId))
+    {
+        pFrame->bReload = pFrame->bReloadAsked;
+        pFrame->bCommitted = false;
+    }
+    Begin(frameId);
 }
 
 void CLoadTracker::Begin(const std::string& frameId)

@@ -66,6 +66,8 @@ public:
 private:
     /// The empty document that a new frame begins with comes without a begin.
     void Announce(const std::string& frameId, const std::wstring& url);
+    /// The navigation that was asked for becomes the load under way.
+    void BeginAsked(const std::string& frameId);
     void Begin(const std::string& frameId);
     void End(const std::string& frameId);
 

@@ -1,6 +1,7 @@
 #include "bench/engine/Engine.h"
 #include "bench/engine/Page.h"
 #include "bench/engine/PageView.h"
+#include "bench/engine/Url.h"
 #include "bench/protocol/Base64.h"
 
 #include <utility>
@@ -83,7 +84,10 @@ void CPage::OnFrameStartedNavigating(const Json& params)
     const std::string frameId = GetNarrowText(params, "frameId");
     if (m_frames.IsTop(frameId))
         LetScriptsRun();
-    if (!m_tracker.OnStartedNavigating(frameId, GetText(params, "url"), GetNarrowText(params, "navigationType")))
+    const std::wstring url = GetText(params, "url");
+    const bool bAllowed = m_tracker.OnStartedNavigating(frameId, url, GetNarrowText(params, "navigationType"));
+    // The engine drops what it can't load; stopping it would stop the document on show as well.
+    if (!bAllowed && IsUrlWithoutRequest(url))
         RunScript(frameId, "stop()");
 }
 

@@ -106,6 +106,9 @@ void CPage::OnScriptLink(const std::string& frameId, const std::wstring& url)
 
 void CPage::StopScripts()
 {
+    // It would come too late for this page and hit the next one.
+    if (m_bNextAwaited)
+        return;
     m_bScriptsStopped = true;
     Post("Emulation.setScriptExecutionDisabled", {{"value", true}});
 }

@@ -50,6 +50,11 @@ bool IsFetchedUrl(const std::wstring& url)
     return BeginsWith(url, L"http:") || BeginsWith(url, L"https:") || BeginsWith(url, L"file:");
 }
 
+bool IsUrlWithoutRequest(const std::wstring& url)
+{
+    return BeginsWith(url, L"about:") || BeginsWith(url, L"data:") || BeginsWith(url, L"blob:");
+}
+
 bool IsScriptUrl(const std::wstring& url)
 {
     return BeginsWith(url, ScriptScheme);

@@ -3,6 +3,7 @@
 #include "bench/server/HttpRequest.h"
 
 #include <algorithm>
+#include <chrono>
 #include <cstdlib>
 #include <fstream>
 #include <iterator>
@@ -58,8 +59,7 @@ CPageServer::~CPageServer()
     SetEvent(m_stop.get());
     if (m_acceptor.joinable())
         m_acceptor.join();
-    for (std::thread& servant : m_servants)
-        servant.join();
+    m_servants.clear();
 }
 
 bool CPageServer::Start(const std::filesystem::path& folder)
@@ -75,9 +75,15 @@ bool CPageServer::Start(const std::filesystem::path& folder)
 
 void CPageServer::AcceptAll()
 {
+    const auto hasEnded = [](const std::future<void>& servant) {
+        return servant.wait_for(std::chrono::seconds::zero()) == std::future_status::ready;
+    };
     while (WaitForSingleObject(m_stop.get(), 0) == WAIT_TIMEOUT)
+    {
+        std::erase_if(m_servants, hasEnded);
         if (CLoopbackSocket socket = m_listener.Accept(AcceptSliceMs))
-            m_servants.emplace_back([this, socket = std::move(socket)]() mutable { Serve(std::move(socket)); });
+            m_servants.push_back(std::async(std::launch::async, &CPageServer::Serve, this, std::move(socket)));
+    }
 }
 
 void CPageServer::Serve(CLoopbackSocket socket)

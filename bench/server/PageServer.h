@@ -6,6 +6,7 @@
 #include <windows.h>
 
 #include <filesystem>
+#include <future>
 #include <optional>
 #include <string>
 #include <thread>
@@ -48,5 +49,5 @@ private:
     CLoopbackSocket m_listener;
     CUniqueKernelHandle m_stop {CreateEventW(nullptr, TRUE, FALSE, nullptr)};
     std::thread m_acceptor;
-    std::vector<std::thread> m_servants;
+    std::vector<std::future<void>> m_servants; ///< the connections that are served; one that goes is waited for
 };

@@ -6,6 +6,7 @@
 #include <comutil.h>
 #include <exdispid.h>
 
+#include <algorithm>
 #include <utility>
 
 using Microsoft::WRL::ComPtr;
@@ -13,8 +14,6 @@ using Microsoft::WRL::ComPtr;
 namespace
 {
 constexpr wchar_t EngineProgram[] = L"chromium";
-/// How long nothing must come for a page to count as at rest.
-constexpr DWORD QuietMs = 150;
 constexpr DWORD SliceMs = 10;
 
 void DispatchMessages()
@@ -40,6 +39,8 @@ HRESULT CTestBrowserWindow::ShowBar(REFCLSID clsid, bool bShow, int nSize)
 bool CTestBrowserWindow::ShowScriptError(const std::wstring& message, const std::wstring&, long)
 {
     m_scriptErrors.push_back(message);
+    if (m_onScriptError)
+        m_onScriptError();
     return m_bScriptsGoOn;
 }
 
@@ -79,7 +80,8 @@ void CBrowserTest::SetUp()
     ComPtr<IConnectionPoint> spPoint;
     ASSERT_EQ(m_spBrowser->FindConnectionPoint(DIID_DWebBrowserEvents2, &spPoint), S_OK);
     ASSERT_EQ(spPoint->Advise(m_spRecorder.Get(), &m_dwCookie), S_OK);
-    PumpUntilQuiet();
+    ASSERT_TRUE(PumpUntil([this] { return Run(L"0") == 0; })) << "the page doesn't answer";
+    Settle();
     TakeEvents();
     s_pages->TakeRequests();
 }
@@ -140,22 +142,34 @@ bool CBrowserTest::PumpUntil(const std::function<bool()>& holds)
     return true;
 }
 
-bool CBrowserTest::PumpUntilQuiet()
+bool CBrowserTest::PumpUntilTold(const std::string& line)
 {
-    size_t nLines = m_spRecorder->m_lines.size();
-    ULONGLONG ullQuietSince = GetTickCount64();
-    return PumpUntil([&] {
-        if (m_window.m_bLoading || std::exchange(nLines, m_spRecorder->m_lines.size()) != nLines)
-            ullQuietSince = GetTickCount64();
-        return GetTickCount64() - ullQuietSince > QuietMs;
-    });
+    const auto& lines = m_spRecorder->m_lines;
+    const bool bTold = PumpUntil([&] { return std::find(lines.begin(), lines.end(), line) != lines.end(); });
+    Settle();
+    return bTold;
+}
+
+void CBrowserTest::Settle()
+{
+    // The page's scripts and its frames are of different processes of the engine.
+    Run(L"0");
+    GetPage().Call("Page.getNavigationHistory");
+    DispatchMessages();
+}
+
+void CBrowserTest::LoadBy(const std::function<void()>& begin)
+{
+    const int nEndedBefore = m_window.m_nLoadsEnded;
+    begin();
+    ASSERT_TRUE(PumpUntil([&] { return m_window.m_nLoadsEnded > nEndedBefore && !m_window.m_bLoading; }))
+        << "no load began or it didn't end";
+    Settle();
 }
 
 void CBrowserTest::Load(const std::wstring& path)
 {
-    ASSERT_EQ(Navigate(UrlOf(path)), S_OK);
-    ASSERT_TRUE(PumpUntil([&] { return m_window.m_bLoading; })) << "no load began";
-    ASSERT_TRUE(PumpUntilQuiet()) << "the load didn't end";
+    LoadBy([&] { ASSERT_EQ(Navigate(UrlOf(path)), S_OK); });
 }
 
 HRESULT CBrowserTest::Navigate(const std::wstring& url)
@@ -166,6 +180,15 @@ HRESULT CBrowserTest::Navigate(const std::wstring& url)
 Json CBrowserTest::Run(const std::wstring& script)
 {
     return GetPage().Evaluate(GetPage().GetTopFrameId(), script);
+}
+
+void CBrowserTest::Click(POINT point)
+{
+    GetPage().MouseEvent(EMouseEvent::Moved, point, EMouseButton::None, 0, InputNone);
+    GetPage().MouseEvent(EMouseEvent::Pressed, point, EMouseButton::Left, 1, InputNone);
+    GetPage().MouseEvent(EMouseEvent::Released, point, EMouseButton::Left, 1, InputNone);
+    // The page answers one input after the other.
+    GetPage().Call("Input.dispatchMouseEvent", {{"type", "mouseMoved"}, {"x", point.x}, {"y", point.y}});
 }
 
 std::vector<std::string> CBrowserTest::TakeEvents()

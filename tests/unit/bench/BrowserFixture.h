@@ -35,7 +35,11 @@ public:
     void OnAddressChanged(const std::wstring& url) override { m_strAddress = url; }
     void OnHistoryChanged() override {}
     void OnTitleChanged(const std::wstring& title) override { m_strTitle = title; }
-    void OnLoadingChanged(bool bLoading) override { m_bLoading = bLoading; }
+    void OnLoadingChanged(bool bLoading) override
+    {
+        m_bLoading = bLoading;
+        m_nLoadsEnded += bLoading ? 0 : 1;
+    }
     void OnStatusText(const std::wstring& text) override { m_strStatus = text; }
     void OnScriptDialog(const std::wstring& message) override { m_dialogs.push_back(message); }
     void OnNewWindow(const std::wstring& url) override { m_windows.push_back(url); }
@@ -54,8 +58,10 @@ public:
     std::wstring m_strStatus;
     std::string m_picture;
     bool m_bLoading = false;
+    int m_nLoadsEnded = 0;
     bool m_bCloseAsked = false;
     bool m_bScriptsGoOn = true;
+    std::function<void()> m_onScriptError; ///< called while the box of a script error is open
 };
 
 /// A browser over the real engine, with an empty page open, pages to load and a recorder of its events.
@@ -86,14 +92,21 @@ protected:
 
     /// Handles messages until the condition holds; false when it doesn't in time.
     static bool PumpUntil(const std::function<bool()>& holds);
-    /// Until nothing loads and no event has come for a moment.
-    bool PumpUntilQuiet();
+    /// Until the line stands among the events that weren't taken yet, and what came with it has been handled.
+    bool PumpUntilTold(const std::string& line);
+    /// Has the page answer once and handles all that it told before its answer.
+    void Settle();
 
+    /// Does what begins a load and waits for the load's end.
+    void LoadBy(const std::function<void()>& begin);
     /// Navigates by the browser object and waits for all that comes of it.
     void Load(const std::wstring& path);
     HRESULT Navigate(const std::wstring& url);
     /// Runs a script in the page.
     Json Run(const std::wstring& script);
+
+    /// Clicks and waits until the page has taken it.
+    void Click(POINT point);
 
     CPage& GetPage() { return m_spBrowser->GetPage(); }
 

@@ -2,6 +2,7 @@
 #include "tests/unit/bench/BrowserFixture.h"
 
 #include <comutil.h>
+#include <exdispid.h>
 #include <gmock/gmock.h>
 #include <mshtml.h>
 #include <servprov.h>
@@ -86,8 +87,9 @@ TEST_F(Documents, EnumerateWhatIsEmbeddedInDocumentOrder)
     Serve("/page.html", "<iframe src=/leaf.html?1></iframe><object type=text/html data=/leaf.html?2></object>"
                         "<embed type=image/x-none><iframe src=/nested.html?3></iframe>");
     Load(L"/page.html");
-    Run(L"const f = document.createElement('iframe'); f.src = '/leaf.html?0'; document.body.prepend(f); 0");
-    ASSERT_TRUE(PumpUntilQuiet());
+    LoadBy([this] {
+        Run(L"const f = document.createElement('iframe'); f.src = '/leaf.html?0'; document.body.prepend(f); 0");
+    });
     const auto spDocument = GetDocument();
     EXPECT_THAT(GetUrls(spDocument.Get()),
                 ElementsAre(L"/leaf.html?0", L"/leaf.html?1", L"/leaf.html?2", L"no browser", L"/nested.html?3"));
@@ -114,6 +116,33 @@ TEST_F(Documents, HaveStableObjectsForFramesAndElements)
     EXPECT_EQ(spBody, spAgain);
     EXPECT_TRUE(QueryFor<IHTMLBodyElement>(spBody.Get()));
     EXPECT_FALSE(QueryFor<IHTMLFrameSetElement>(spBody.Get()));
+}
+
+TEST_F(Documents, KeepTheIdentityOfEachKindOfFrame)
+{
+    Serve("/leaf.html", "<p>Leaf");
+    Serve("/other.html", "<p>Other");
+    Serve("/frames.html", "<frameset cols='50%,*'><frame src=/leaf.html><frame src=/leaf.html></frameset>");
+    Serve("/others.html", "<iframe src=/leaf.html></iframe><object type=text/html data=/leaf.html></object>");
+    for (const wchar_t* pszPage : {L"/frames.html", L"/others.html"})
+    {
+        Load(pszPage);
+        const auto spDocument = GetDocument();
+        for (size_t nFrame = 0; nFrame < 2; ++nFrame)
+        {
+            const ComPtr<IUnknown> spFrame = GetEmbedded(spDocument.Get())[nFrame];
+            ComPtr<IUnknown> spTold;
+            GetRecorder().SetAction([&](DISPID dispid, const DISPPARAMS& params) {
+                if (dispid == DISPID_BEFORENAVIGATE2)
+                    spTold = V_DISPATCH(&params.rgvarg[6]);
+            });
+            LoadBy([&] { Run(L"frames[" + std::to_wstring(nFrame) + L"].location = '/other.html'"); });
+            GetRecorder().SetAction(nullptr);
+            EXPECT_TRUE(IsSameObject(spFrame.Get(), spTold.Get())) << nFrame;
+            EXPECT_TRUE(IsSameObject(spFrame.Get(), GetEmbedded(spDocument.Get())[nFrame].Get())) << nFrame;
+            EXPECT_EQ(GetUrl(spFrame.Get()), L"/other.html");
+        }
+    }
 }
 
 TEST_F(Documents, GiveTheFramesetAsTheBodyOfAFrameset)
@@ -168,9 +197,27 @@ TEST_F(Documents, OfAPageThatHasGoneAnswerErrorsAndLeaveTheNewOneAlone)
     EXPECT_EQ(spDocument->get_body(&spBody), RPC_E_DISCONNECTED);
     ComPtr<IHTMLDocument2> spInner;
     EXPECT_EQ(spFrame->get_document(&spInner), RPC_E_DISCONNECTED);
+    ComPtr<IHTMLWindow2> spRelative;
+    EXPECT_EQ(spFrame->get_parent(&spRelative), RPC_E_DISCONNECTED);
+    EXPECT_EQ(spFrame->get_top(&spRelative), RPC_E_DISCONNECTED);
     READYSTATE eState;
     EXPECT_EQ(spFrameBrowser->get_ReadyState(&eState), RPC_E_DISCONNECTED);
     EXPECT_EQ(Run(L"document.body.style.zoom + document.title"), "1New");
+}
+
+TEST_F(Documents, OfThePageIsGivenWhileTheNextOneIsAwaited)
+{
+    Serve("/page.html", "<title>Page</title>");
+    Load(L"/page.html");
+    HRESULT hr = E_FAIL;
+    ComPtr<IDispatch> spDocument;
+    GetRecorder().SetAction([&](DISPID dispid, const DISPPARAMS&) {
+        if (dispid == DISPID_BEFORENAVIGATE2)
+            hr = m_spBrowser->get_Document(&spDocument);
+    });
+    Load(L"/page.html");
+    EXPECT_EQ(hr, S_OK);
+    EXPECT_TRUE(spDocument);
 }
 
 TEST_F(Documents, OfAReloadedPageAreNewOnes)
@@ -178,8 +225,7 @@ TEST_F(Documents, OfAReloadedPageAreNewOnes)
     Serve("/page.html", "<title>Page</title>");
     Load(L"/page.html");
     const auto spDocument = GetDocument();
-    m_spBrowser->Refresh();
-    ASSERT_TRUE(PumpUntil([this] { return m_window.m_bLoading; }) && PumpUntilQuiet());
+    LoadBy([this] { m_spBrowser->Refresh(); });
     _bstr_t title;
     EXPECT_EQ(spDocument->get_title(title.GetAddress()), RPC_E_DISCONNECTED);
     EXPECT_EQ(GetDocument()->get_title(title.GetAddress()), S_OK);

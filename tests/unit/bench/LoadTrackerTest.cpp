@@ -115,6 +115,23 @@ TEST_F(LoadTracker, TellsNothingBehindACancelledRequest)
     EXPECT_THAT(Take(), ElementsAre("before top"));
 }
 
+TEST_F(LoadTracker, KeepsTheLoadUnderWayWhenANavigationIsCancelled)
+{
+    for (const std::wstring& cancelled : {std::wstring(L"trelvix:x"), std::wstring(Url)})
+    {
+        Start("top");
+        Request("top");
+        m_tracker.OnCommitted("top", Url, L"", L"");
+        Take();
+        m_events.m_bCancel = true;
+        Start("top", cancelled);
+        EXPECT_FALSE(cancelled == Url && Request("top"));
+        m_events.m_bCancel = false;
+        m_tracker.OnStoppedLoading("top");
+        EXPECT_THAT(Take(), ElementsAre("before top", "end top", "complete top"));
+    }
+}
+
 TEST_F(LoadTracker, TellsAReloadByItsDownloadsAlone)
 {
     Start("top", Url, "reload");

@@ -14,13 +14,6 @@ using testing::StartsWith;
 
 class Page : public CBrowserTest
 {
-protected:
-    void Click(POINT point)
-    {
-        GetPage().MouseEvent(EMouseEvent::Moved, point, EMouseButton::None, 0, InputNone);
-        GetPage().MouseEvent(EMouseEvent::Pressed, point, EMouseButton::Left, 1, InputNone);
-        GetPage().MouseEvent(EMouseEvent::Released, point, EMouseButton::Left, 1, InputNone);
-    }
 };
 
 TEST_F(Page, SendsPicturesWhenItChanges)
@@ -30,10 +23,9 @@ TEST_F(Page, SendsPicturesWhenItChanges)
     Load(L"/page.html");
     ASSERT_TRUE(PumpUntil([this] { return !m_window.m_picture.empty(); }));
     EXPECT_THAT(m_window.m_picture, StartsWith("\xff\xd8"));
-    PumpUntilQuiet();
-    m_window.m_picture.clear();
+    const std::string first = m_window.m_picture;
     Run(L"document.body.style.background = 'blue'");
-    EXPECT_TRUE(PumpUntil([this] { return !m_window.m_picture.empty(); }));
+    EXPECT_TRUE(PumpUntil([&] { return m_window.m_picture != first; }));
     EXPECT_THAT(GetPage().Capture(), StartsWith("\x89PNG"));
 }
 
@@ -83,7 +75,7 @@ TEST_F(Page, LeavesNewWindowsToTheView)
     TakeRequests();
     GetPage().Call("Runtime.evaluate", {{"expression", "void open('/next.html')"}, {"userGesture", true}});
     ASSERT_TRUE(PumpUntil([this] { return !m_window.m_windows.empty(); }));
-    PumpUntilQuiet();
+    Settle();
     EXPECT_THAT(m_window.m_windows, ElementsAre(UrlOf(L"/next.html")));
     EXPECT_THAT(TakeRequests(), testing::Not(testing::Contains(HasSubstr("/next.html"))));
 }
@@ -127,7 +119,7 @@ TEST_F(Page, TellsOnceThatItsProcessHasEndedAndAnswersNothingMore)
     Load(L"/page.html");
     Navigate(L"chrome://crash");
     ASSERT_TRUE(PumpUntil([this] { return !m_window.m_gone.empty(); }));
-    PumpUntilQuiet();
+    Settle();
     EXPECT_THAT(m_window.m_gone, SizeIs(1));
     EXPECT_FALSE(GetPage().IsOpen());
     EXPECT_TRUE(Run(L"1").is_null());

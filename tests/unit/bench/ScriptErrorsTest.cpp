@@ -4,6 +4,7 @@
 
 #include <comutil.h>
 #include <docobj.h>
+#include <exdispid.h>
 #include <gmock/gmock.h>
 #include <mshtmhst.h>
 #include <mshtml.h>
@@ -33,6 +34,11 @@ public:
     STDMETHODIMP UpdateUI() override
     {
         ++m_nUpdates;
+        return S_OK;
+    }
+    STDMETHODIMP EnableModeless(BOOL bEnable) override
+    {
+        m_enabled.push_back(bEnable != FALSE);
         return S_OK;
     }
     STDMETHODIMP OnDocWindowActivate(BOOL bActive) override
@@ -77,6 +83,7 @@ public:
 
     int m_nAsked = 0;
     int m_nUpdates = 0;
+    std::vector<bool> m_enabled;
     bool m_bActive = false;
     POINT m_menuPoint = {};
     bool m_bGoOn = true;
@@ -144,6 +151,7 @@ TEST_F(ScriptErrors, GoToTheWindowsOwnBoxWithoutAHandlerOrWhenItRefuses)
     Run(L"setTimeout(fail)");
     EXPECT_TRUE(PumpUntil([this] { return m_window.m_scriptErrors.size() == 2; }));
     EXPECT_THAT(spHandler->m_properties, SizeIs(5));
+    EXPECT_THAT(spHandler->m_enabled, ElementsAre(false, true));
 }
 
 TEST_F(ScriptErrors, StopThePagesScriptsWhenTheHandlerSaysSo)
@@ -153,14 +161,62 @@ TEST_F(ScriptErrors, StopThePagesScriptsWhenTheHandlerSaysSo)
     spHandler->m_bGoOn = false;
     Run(L"onclick = () => document.title = 'clicked'; setTimeout(fail)");
     ASSERT_TRUE(PumpUntil([&] { return !spHandler->m_properties.empty(); }));
-    PumpUntilQuiet();
-    GetPage().MouseEvent(EMouseEvent::Pressed, {300, 300}, EMouseButton::Left, 1, InputNone);
-    GetPage().MouseEvent(EMouseEvent::Released, {300, 300}, EMouseButton::Left, 1, InputNone);
-    PumpUntilQuiet();
+    Settle();
+    Click({300, 300});
     EXPECT_EQ(Run(L"document.title"), "Page");
     Serve("/next.html", "<title>Next</title><script>document.title += ' runs'</script>");
     Load(L"/next.html");
     EXPECT_EQ(Run(L"document.title"), "Next runs");
+}
+
+TEST_F(ScriptErrors, StopNoScriptsOfAPageThatCameWhileTheBoxWasOpen)
+{
+    LoadFailingPage();
+    Serve("/next.html", "<title>Next</title><script>onclick = () => document.title = 'Clicked'</script>");
+    m_window.m_bScriptsGoOn = false;
+    m_window.m_onScriptError = [this] { Load(L"/next.html"); };
+    Run(L"setTimeout(fail)");
+    ASSERT_TRUE(PumpUntil([this] { return m_window.m_strTitle == L"Next"; }));
+    Click({300, 300});
+    EXPECT_TRUE(PumpUntil([this] { return m_window.m_strTitle == L"Clicked"; }));
+}
+
+TEST_F(ScriptErrors, StopNoScriptsOfAPageThatIsAwaitedWhenTheBoxIsClosed)
+{
+    LoadFailingPage();
+    Serve("/next.html", "<title>Next</title><script>document.title = 'Next runs'</script>");
+    m_window.m_bScriptsGoOn = false;
+    m_window.m_onScriptError = [this] {
+        bool bAwaited = false;
+        GetRecorder().SetAction([&](DISPID dispid, const DISPPARAMS&) { bAwaited |= dispid == DISPID_DOWNLOADBEGIN; });
+        Navigate(UrlOf(L"/next.html"));
+        EXPECT_TRUE(PumpUntil([&] { return bAwaited; }));
+        GetRecorder().SetAction(nullptr);
+    };
+    Run(L"setTimeout(fail)");
+    EXPECT_TRUE(PumpUntil([this] { return m_window.m_strTitle == L"Next runs"; }));
+}
+
+TEST_F(ScriptErrors, GoToTheSameHandlerAfterAReload)
+{
+    LoadFailingPage();
+    const auto spHandler = SetHandler();
+    for (int nReload = 0; nReload < 2; ++nReload)
+        LoadBy([this] { m_spBrowser->Refresh(); });
+    Run(L"setTimeout(fail)");
+    EXPECT_TRUE(PumpUntil([&] { return !spHandler->m_properties.empty(); }));
+    EXPECT_THAT(m_window.m_scriptErrors, IsEmpty());
+}
+
+TEST_F(ScriptErrors, OfTheNextPageGoToTheBoxEvenWhenThatIsReloaded)
+{
+    LoadFailingPage();
+    const auto spHandler = SetHandler();
+    LoadFailingPage();
+    LoadBy([this] { m_spBrowser->Refresh(); });
+    Run(L"setTimeout(fail)");
+    EXPECT_TRUE(PumpUntil([this] { return m_window.m_scriptErrors.size() == 1; }));
+    EXPECT_THAT(spHandler->m_properties, IsEmpty());
 }
 
 TEST_F(ScriptErrors, HaveNoEventObjectAtOtherTimes)

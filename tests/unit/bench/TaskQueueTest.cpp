@@ -76,8 +76,8 @@ TEST(TaskQueue, TakesTasksFromATask)
 
 TEST(TaskQueue, GivesUpOnATaskThatTakesTooLong)
 {
-    CServingThread thread;
     std::promise<void> release;
+    CServingThread thread;
     EXPECT_FALSE(thread.GetQueue().Run([&] { release.get_future().wait(); }, ShortTimeoutMs));
     release.set_value();
 }
@@ -94,17 +94,16 @@ TEST(TaskQueue, DropsWhatComesAfterItsEnd)
 TEST(TaskQueue, EndsTheWaitForATaskThatIsDropped)
 {
     CServingThread thread;
-    std::thread waiting;
-    std::promise<bool> result;
+    std::future<bool> waiting;
     // The queue ends while another thread waits for a task behind the one that ends it.
     EXPECT_TRUE(thread.GetQueue().Run(
         [&] {
-            waiting = std::thread([&] { result.set_value(thread.GetQueue().Run([] {}, TimeoutMs)); });
+            waiting = std::async(std::launch::async, [&] { return thread.GetQueue().Run([] {}, 2 * TimeoutMs); });
+            thread.GetQueue().Close();
             PostQuitMessage(0);
         },
         TimeoutMs));
-    thread.End();
-    waiting.join();
-    result.get_future().get();
+    ASSERT_EQ(waiting.wait_for(std::chrono::milliseconds(TimeoutMs)), std::future_status::ready);
+    EXPECT_FALSE(waiting.get());
 }
 } // namespace

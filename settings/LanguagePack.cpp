@@ -18,7 +18,8 @@ constexpr UINT PackOpenFlags = CFile::modeRead | CFile::shareDenyWrite | CFile::
 constexpr UINT SubmenuId = static_cast<UINT>(-1);
 constexpr UINT NoSuchItem = static_cast<UINT>(-1);
 
-/// The texts of a pack by their ids. All are dropped together, so they share memory that is given back at the end only.
+/// The texts of a pack by their ids. All are dropped together, so they share memory that is given back at the end only:
+/// with nodes allocated ten at a time, and each text by itself, a load takes half as long again.
 struct CTranslationMap
 {
     std::pmr::monotonic_buffer_resource memory;
@@ -52,10 +53,8 @@ bool LoadPack(const std::wstring& path)
 {
     CStdioFileEx file;
     if (!file.Open(path, PackOpenFlags))
-    {
-        CStdioFileEx::HasByteOrderMark(path); // asked, and the answer deliberately not used
         return false;
-    }
+    CStdioFileEx::HasByteOrderMark(path); // asked, and the answer deliberately not used
     try
     {
         std::wstring line;

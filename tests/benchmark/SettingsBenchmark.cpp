@@ -6,10 +6,11 @@
 #include "settings/SettingsStore.h"
 #include "tests/benchmark/Benchmark.h"
 #include "tests/fakes/FakeBandSite.h"
+#include "tests/fakes/FakeCalls.h"
 #include "tests/fakes/FakeSettingsBroker.h"
 #include "tests/fakes/FakeWebBrowser2.h"
-#include "tests/fakes/ProductModule.h"
 #include "tests/fakes/TestWindow.h"
+#include "tests/system/ServerModule.h"
 
 #include <windows.h>
 #include <shlobj.h>
@@ -31,14 +32,15 @@ constexpr int nPackLines = 1000;
 constexpr int nReads = 10;
 constexpr int nLoads = 20;
 
-/// Does with a band what the browser does with the first one of its process.
-void StartBand()
+/// Does with a band of the library what the browser does with the first one of its process.
+void StartBand(const CServerModule& server)
 {
     const CTestWindow frame;
     const auto spBrowser = MakeFake<CFakeWebBrowser2>();
     const auto spSite = MakeFake<CFakeBandSite>(frame, spBrowser.Get());
     ComPtr<IDeskBand> spBand;
-    CoCreateInstance(CLSID_ATLTrelvix, nullptr, CLSCTX_INPROC_SERVER, IID_PPV_ARGS(&spBand));
+    if (FAILED(server.CreateInstance(CLSID_ATLTrelvix, nullptr, IID_PPV_ARGS(&spBand))))
+        return;
     ComPtr<IObjectWithSite> spObject;
     spBand.As(&spObject);
     DESKBANDINFO info = {};
@@ -52,13 +54,15 @@ void StartBand()
 
 void CountCallsOfFirstStart(CBenchmark& benchmark)
 {
-    const CProductModule module;
+    const CServerModule server; // no other subject has filled the cache of the library
     const CFakeSettingsBrokerServer broker;
-    StartBand();
+    CFakeCalls::Get().Reset();
+    StartBand(server);
     const std::set<std::wstring> distinct(broker->m_reads.begin(), broker->m_reads.end());
     const auto nObjects = CFakeCalls::Get().CountOf("SettingsBroker.CreateInstance") - broker->m_writes.size();
     benchmark.Count("broker objects for reads at the first start", static_cast<long long>(nObjects),
                     std::max<long long>(1, static_cast<long long>(distinct.size())));
+    PumpMessages();
 }
 
 /// A setting that this process has not asked for yet.
@@ -68,24 +72,26 @@ std::wstring NextName()
     return L"name" + std::to_wstring(++nNames);
 }
 
-void ReadBare(const std::wstring& strName)
+/// Whether the read succeeded.
+bool ReadBare(const std::wstring& strName)
 {
     ComPtr<ISettingsBroker> spBroker;
     CoCreateInstance(CLSID_SettingsBroker, nullptr, CLSCTX_LOCAL_SERVER, IID_PPV_ARGS(&spBroker));
     BSTR verb = SysAllocString(ReadVerb);
     BSTR key = SysAllocString(BuildSettingKey(SettingsRoot, L"Benchmark", strName).c_str());
     BSTR value = nullptr;
-    if (spBroker)
-        spBroker->Execute(&verb, &key, &value);
+    const bool bRead = spBroker && spBroker->Execute(&verb, &key, &value) == S_OK;
     SysFreeString(verb);
     SysFreeString(key);
     SysFreeString(value);
+    return bRead;
 }
 
 /// Against the broker that is registered.
 void CompareUncachedRead(CBenchmark& benchmark)
 {
     CSettingsStore store(SettingsRoot);
+    benchmark.Count("brokers to be had for the reads that follow", ReadBare(NextName()), 1);
     benchmark.Compare(
         "one read of an unknown setting", {.mostRatio = 1.1},
         [&] { return TimeOfEach(nReads, [&] { store.ReadString(L"Benchmark", NextName()); }); },

@@ -1,5 +1,6 @@
 #include "band/BrowserEventArguments.h"
 #include "band/ButtonIndex.h"
+#include "band/ButtonSection.h"
 #include "band/PseudoUrl.h"
 #include "band/TrelvixWindow.h"
 #include "framework/ComQuery.h"
@@ -50,7 +51,7 @@ bool ConfirmSearchEngine(HWND hWndOwner, const CSearchEngineRequest& request)
 
 void StoreSearchEngine(const CSearchEngineRequest& request)
 {
-    const std::wstring strSection = L"Button" + std::to_wstring(SearchGoogleIndex);
+    const std::wstring strSection = GetButtonSection(SearchGoogleIndex);
     CSettingsStore store(SettingsRoot);
     store.WriteString(request.strName, strSection, L"WebSearchTitle");
     store.WriteString(request.strUrl, strSection, L"WebSearchURL");

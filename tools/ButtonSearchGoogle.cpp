@@ -1,6 +1,7 @@
 #include "tools/ButtonSearchGoogle.h"
 
 #include "band/ButtonIndex.h"
+#include "band/ButtonSection.h"
 #include "band/TrelvixWindow.h"
 #include "resources/resource.h"
 #include "settings/LanguagePack.h"
@@ -12,7 +13,7 @@ IMPLEMENT_DYNCREATE(CButtonSearchGoogle, CButtonSearchWeb)
 bool CButtonSearchGoogle::Initialize(CTrelvixWindow* pParent)
 {
     m_nButtonId = SearchGoogleIndex;
-    const std::wstring strSection = L"Button" + std::to_wstring(m_nButtonId);
+    const std::wstring strSection = GetButtonSection(m_nButtonId);
     CSettingsStore store(SettingsRoot);
     m_strSearchUrl = store.ReadString(strSection, L"WebSearchURL");
     if (m_strSearchUrl.empty())

@@ -1,3 +1,4 @@
+#include "band/ButtonSection.h"
 #include "resources/resource.h"
 #include "settings/LanguagePack.h"
 #include "settings/SettingsStore.h"
@@ -8,11 +9,6 @@
 namespace
 {
 constexpr int HistorySize = 21;
-
-std::wstring GetSection(int nButtonId)
-{
-    return L"Button" + std::to_wstring(nButtonId);
-}
 
 std::wstring GetValueName(int nEntry)
 {
@@ -36,7 +32,7 @@ void CButtonSearchWeb::LoadHistory()
     InsertResetEntry(m_comboSearch);
     for (int n = HistorySize - 1; n >= 0; --n)
     {
-        const std::wstring strWord = store.ReadString(GetSection(m_nButtonId), GetValueName(n));
+        const std::wstring strWord = store.ReadString(GetButtonSection(m_nButtonId), GetValueName(n));
         if (!strWord.empty())
             m_comboSearch.InsertString(0, strWord.c_str());
     }
@@ -55,7 +51,7 @@ void CButtonSearchWeb::SaveHistory()
         std::wstring strWord;
         m_comboSearch.GetLBText(n, strWord);
         if (!strWord.empty())
-            store.WriteString(strWord, GetSection(m_nButtonId), GetValueName(n));
+            store.WriteString(strWord, GetButtonSection(m_nButtonId), GetValueName(n));
     }
 }
 
@@ -65,7 +61,7 @@ void CButtonSearchWeb::ResetHistory()
         return;
     CSettingsStore store(SettingsRoot);
     for (int n = 0; n < HistorySize; ++n)
-        store.WriteString({}, GetSection(m_nButtonId), GetValueName(n));
+        store.WriteString({}, GetButtonSection(m_nButtonId), GetValueName(n));
     m_comboSearch.ResetContent();
     m_comboSearch.ShowPlaceholder(true);
     InsertResetEntry(m_comboSearch);

@@ -31,7 +31,7 @@ ITEMS_KNOWN_TO = {
 }
 
 # What an item knows of band/.
-HUB = ("band/ButtonIndex.h", "band/TrelvixButton.h", "band/TrelvixWindow.h")
+HUB = ("band/ButtonIndex.h", "band/ButtonSection.h", "band/TrelvixButton.h", "band/TrelvixWindow.h")
 
 
 def sources():

@@ -20,13 +20,11 @@ constexpr wchar_t DefaultEngine[] = L"chromium";
 constexpr DWORD ClosingTimeoutMs = 20'000;
 constexpr DWORD ClosingPollMs = 100;
 
-/// Whether it is the name of a page of the bench, such as "frames.html" or "slow?ms=100".
+/// Whether it is the name of a page of the bench, such as "frames.html", "slow?ms=100" or "status/404".
 bool IsOwnPage(const std::wstring& address)
 {
     const std::wstring file = address.substr(0, address.find_first_of(L"?#"));
-    const bool bPlain = file.find_first_of(L":\\/ ") == std::wstring::npos;
-    return bPlain && (file.ends_with(L".html") || file == L"slow" || file == L"redirect" || file == L"search" ||
-                      file == L"download");
+    return file.find_first_of(L":\\ ") == std::wstring::npos && CPageServer::Knows("/" + ToUtf8(file));
 }
 } // namespace
 

@@ -4,11 +4,15 @@
 #include "bench/Options.h"
 #include "bench/script/ScriptRunner.h"
 #include "bench/Version.h"
+#include "framework/Handles.h"
 
 #include <windows.h>
 #include <commctrl.h>
 #include <ole2.h>
 #include <shellapi.h>
+
+#include <string>
+#include <vector>
 
 namespace
 {

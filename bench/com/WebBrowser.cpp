@@ -12,6 +12,9 @@
 #include <oleacc.h>
 #include <shlguid.h>
 
+#include <iterator>
+#include <utility>
+
 using Microsoft::WRL::ComPtr;
 
 CWebBrowser::CWebBrowser(IBrowserWindow& window, IPageView& view)
@@ -124,14 +127,18 @@ LRESULT CWebBrowser::GetHtmlObject(WPARAM wParam)
 
 STDMETHODIMP CWebBrowser::GoBack()
 {
+    if (!m_page.CanGoBack())
+        return E_FAIL;
     m_page.GoBack();
-    return m_page.CanGoBack() ? S_OK : E_FAIL;
+    return S_OK;
 }
 
 STDMETHODIMP CWebBrowser::GoForward()
 {
+    if (!m_page.CanGoForward())
+        return E_FAIL;
     m_page.GoForward();
-    return m_page.CanGoForward() ? S_OK : E_FAIL;
+    return S_OK;
 }
 
 STDMETHODIMP CWebBrowser::Quit()

@@ -85,16 +85,14 @@ public:
 
     const CFrameTree& GetFrames() const { return m_frames; }
     const std::string& GetTopFrameId() const { return m_frames.GetTopId(); }
-    /// The title of the top document.
-    const std::wstring& GetTitle() const { return m_strTitle; }
 
-    /// While the next document of the top frame is fetched, the engine answers no questions about the one on show; they
-    /// are not asked then and count as failed.
-
-    /// The value of a script expression in the frame's document; null when it failed or the frame has gone.
+    /// The value of a script expression in the frame's document; null when it failed or the frame has gone. While the
+    /// next document of the top frame is fetched, the engine answers no questions about the one on show; they are not
+    /// asked then and count as failed.
     Json Evaluate(const std::string& frameId, const std::wstring& expression);
 
     /// Asks the frame's document by a function of page.js; none when the frame has gone or the function failed.
+    /// What is said above of the next document holds here as well.
     std::optional<Json> Ask(const std::string& frameId, const char* pszFunction, Json arguments = Json::array());
     /// The same without waiting for the answer.
     void Tell(const std::string& frameId, const char* pszFunction, Json arguments);

@@ -7,6 +7,7 @@
 #include <cstdlib>
 #include <fstream>
 #include <iterator>
+#include <string_view>
 #include <utility>
 
 namespace
@@ -15,6 +16,12 @@ constexpr unsigned AcceptSliceMs = 50;
 constexpr unsigned NewsSliceMs = 10;
 constexpr unsigned RequestTimeoutMs = 10'000;
 constexpr int LongestDelayMs = 30'000;
+
+constexpr char SlowPage[] = "/slow";
+constexpr char RedirectPage[] = "/redirect";
+constexpr char DownloadPage[] = "/download";
+constexpr char SearchPage[] = "/search";
+constexpr std::string_view StatusPage = "/status/";
 
 std::string MakeAnswer(const char* pszStatus, const char* pszType, const std::string& body,
                        const std::string& furtherHeaders = {})
@@ -117,20 +124,29 @@ std::optional<std::string> CPageServer::ReadHead(CLoopbackSocket& socket) const
     return std::nullopt;
 }
 
+bool CPageServer::Knows(const std::string& path)
+{
+    return path == SlowPage || path == RedirectPage || path == DownloadPage || path == SearchPage ||
+           path.starts_with(StatusPage) || (path.ends_with(".html") && path.rfind('/') == 0);
+}
+
 std::string CPageServer::Answer(const CHttpRequest& request) const
 {
     const std::string& path = request.strPath;
-    if (path == "/slow")
+    if (path == SlowPage)
         return AnswerSlowly(request);
-    if (path == "/redirect")
+    if (path == RedirectPage)
         return MakeAnswer("302 Found", "text/plain", "", "Location: " + GetTarget(request) + "\r\n");
-    if (path == "/download")
+    if (path == DownloadPage)
         return MakeAnswer("200 OK", "application/octet-stream", "Saved, not shown.\n",
                           "Content-Disposition: attachment; filename=\"download.bin\"\r\n");
-    if (path.starts_with("/status/"))
-        return MakePage((path.substr(8) + " Asked For").c_str(), "Status " + EscapeHtml(path.substr(8)),
+    if (path.starts_with(StatusPage))
+    {
+        const std::string status = path.substr(StatusPage.size());
+        return MakePage((status + " Asked For").c_str(), "Status " + EscapeHtml(status),
                         "The server was asked to say so.");
-    if (path == "/search")
+    }
+    if (path == SearchPage)
         return MakePage("200 OK", "Search",
                         "You searched for <b id=asked>" + EscapeHtml(GetQueryValue(request.strQuery, "q")) + "</b>.");
     return AnswerFile(path == "/" ? "/start.html" : path);

@@ -32,6 +32,10 @@ public:
     /// Serves the folder from now on. False when there is no port to be had.
     bool Start(const std::filesystem::path& folder);
 
+    /// Whether the path, which begins with a slash and has no query, is one of the server's own or that of a page in
+    /// the folder itself.
+    static bool Knows(const std::string& path);
+
     /// "http://127.0.0.1:PORT/"
     const std::wstring& GetAddress() const { return m_strAddress; }
 

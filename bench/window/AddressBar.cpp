@@ -2,6 +2,7 @@
 
 #include "bench/BenchResource.h"
 #include "bench/window/DeviceContext.h"
+#include "bench/window/FaceColor.h"
 #include "bench/window/Picture.h"
 #include "framework/Module.h"
 
@@ -11,9 +12,12 @@ namespace
 {
 constexpr int ImageSize = 16;
 constexpr int ToolbarWidth = 52;
+constexpr int ToolbarLeft = 2;
 constexpr int ToolbarTop = 3;
 constexpr int EditTop = 4;
 constexpr int EditHeight = 22;
+constexpr int EditMargin = 4;
+constexpr int FontHeight = 13;
 constexpr UINT EditId = 1;
 
 enum ENavigationImage
@@ -71,7 +75,7 @@ bool CAddressBar::Create(HWND hWndParent)
         !CreateButtons(m_actions, ImageReload, IDM_REFRESH, IDM_GO) ||
         !m_edit.CreateEx(WS_EX_CLIENTEDGE, WC_EDITW, nullptr, dwEditStyle, RECT {}, m_hWnd, EditId))
         return false;
-    m_font.reset(CreateFontW(-13, 0, 0, 0, FW_NORMAL, FALSE, FALSE, FALSE, DEFAULT_CHARSET, OUT_DEFAULT_PRECIS,
+    m_font.reset(CreateFontW(-FontHeight, 0, 0, 0, FW_NORMAL, FALSE, FALSE, FALSE, DEFAULT_CHARSET, OUT_DEFAULT_PRECIS,
                              CLIP_DEFAULT_PRECIS, DEFAULT_QUALITY, DEFAULT_PITCH, L"Tahoma"));
     SendMessageW(m_edit, WM_SETFONT, reinterpret_cast<WPARAM>(m_font.get()), FALSE);
     return true;
@@ -142,24 +146,19 @@ void CAddressBar::SetState(bool bCanGoBack, bool bCanGoForward, bool bLoading)
 void CAddressBar::OnPaint()
 {
     const CPaintDC screen(m_hWnd);
-    RECT rect = {};
-    GetClientRect(m_hWnd, &rect);
-    FillRect(screen, &rect, GetSysColorBrush(COLOR_BTNFACE));
+    FillWithFaceColor(m_hWnd, screen);
 }
 
 LRESULT CAddressBar::OnEraseBackground(WPARAM wParam, LPARAM)
 {
-    RECT rect = {};
-    GetClientRect(m_hWnd, &rect);
-    // The transparent toolbars have their background drawn by this message.
-    FillRect(reinterpret_cast<HDC>(wParam), &rect, GetSysColorBrush(COLOR_BTNFACE));
-    return TRUE;
+    return FillWithFaceColor(m_hWnd, reinterpret_cast<HDC>(wParam));
 }
 
 void CAddressBar::OnSize(UINT, int cx, int cy)
 {
     constexpr UINT nFlags = SWP_NOZORDER | SWP_NOACTIVATE;
-    SetWindowPos(m_history, nullptr, 2, ToolbarTop, ToolbarWidth, cy - ToolbarTop, nFlags);
-    SetWindowPos(m_edit, nullptr, ToolbarWidth + 4, EditTop, cx - 2 * ToolbarWidth - 8, EditHeight, nFlags);
+    SetWindowPos(m_history, nullptr, ToolbarLeft, ToolbarTop, ToolbarWidth, cy - ToolbarTop, nFlags);
+    const int cxEdit = cx - 2 * (ToolbarWidth + EditMargin);
+    SetWindowPos(m_edit, nullptr, ToolbarWidth + EditMargin, EditTop, cxEdit, EditHeight, nFlags);
     SetWindowPos(m_actions, nullptr, cx - ToolbarWidth, ToolbarTop, ToolbarWidth, cy - ToolbarTop, nFlags);
 }

@@ -1,11 +1,11 @@
 #include "bench/BenchResource.h"
 #include "bench/server/PageList.h"
+#include "bench/Version.h"
 #include "bench/window/FrameWindow.h"
 #include "bench/window/RegisteredBands.h"
 #include "bench/window/TabWindow.h"
 #include "framework/GuidText.h"
 #include "framework/Handles.h"
-#include "framework/HostVersion.h"
 
 #include <commctrl.h>
 #include <uxtheme.h>
@@ -142,13 +142,10 @@ void CFrameWindow::ToggleStatusBar()
 
 void CFrameWindow::ShowAbout()
 {
-    wchar_t szText[200];
-    _snwprintf(
-        szText, std::size(szText),
-        L"The bench browser of Trelvix\n\nA small browser that hosts the toolbar as Internet Explorer %.1f does.\n"
-        L"Its pages are shown by Chromium.",
-        GetIEVersion());
-    MessageBoxW(m_hWnd, szText, L"About", MB_ICONINFORMATION);
+    const std::wstring text =
+        L"The bench browser of Trelvix\n\nA small browser that hosts the toolbar as Internet Explorer " +
+        GetOwnVersion() + L" does.\nIts pages are shown by Chromium.";
+    MessageBoxW(m_hWnd, text.c_str(), L"About", MB_ICONINFORMATION);
 }
 
 LRESULT CFrameWindow::OnInitMenuPopup(WPARAM wParam, LPARAM lParam)

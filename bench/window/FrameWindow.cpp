@@ -1,6 +1,7 @@
 #include "bench/window/FrameWindow.h"
 
 #include "bench/BenchResource.h"
+#include "bench/window/FaceColor.h"
 #include "bench/window/TabWindow.h"
 #include "framework/Module.h"
 
@@ -17,7 +18,7 @@ constexpr int DefaultWidth = 1200;
 constexpr int DefaultHeight = 860;
 constexpr size_t MaxTabTitle = 30;
 
-void RegisterFrameClass()
+ATOM RegisterFrameClass()
 {
     WNDCLASSEXW windowClass = {};
     windowClass.cbSize = sizeof windowClass;
@@ -28,7 +29,7 @@ void RegisterFrameClass()
     windowClass.hCursor = LoadCursorW(nullptr, IDC_ARROW);
     windowClass.lpszMenuName = MAKEINTRESOURCEW(IDR_MAINFRAME);
     windowClass.lpszClassName = ClassName;
-    RegisterClassExW(&windowClass);
+    return RegisterClassExW(&windowClass);
 }
 
 RECT GetFirstRect()
@@ -70,11 +71,11 @@ CFrameWindow::~CFrameWindow()
 
 bool CFrameWindow::Create(const std::wstring& url, int nShow)
 {
-    static const bool bRegistered = (RegisterFrameClass(), true);
+    static const ATOM nClass = RegisterFrameClass();
     constexpr DWORD dwStyle = WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN;
     constexpr DWORD dwStripStyle = WS_CHILD | WS_CLIPSIBLINGS | TCS_FOCUSNEVER;
     constexpr DWORD dwStatusStyle = WS_CHILD | WS_VISIBLE | WS_CLIPSIBLINGS | SBARS_SIZEGRIP;
-    if (!bRegistered || !CreateEx(0, ClassName, TitleSuffix, dwStyle, GetFirstRect(), nullptr, 0) ||
+    if (nClass == 0 || !CreateEx(0, ClassName, TitleSuffix, dwStyle, GetFirstRect(), nullptr, 0) ||
         !m_addressBar.Create(m_hWnd) ||
         !m_tabStrip.CreateEx(0, WC_TABCONTROLW, nullptr, dwStripStyle, RECT {}, m_hWnd, 0) ||
         !m_statusBar.CreateEx(0, STATUSCLASSNAMEW, nullptr, dwStatusStyle, RECT {}, m_hWnd, 0))
@@ -123,11 +124,7 @@ void CFrameWindow::Layout()
 
 LRESULT CFrameWindow::OnEraseBackground(WPARAM wParam, LPARAM)
 {
-    // Its children with transparent parts have their background drawn by this message.
-    RECT rect = {};
-    GetClientRect(m_hWnd, &rect);
-    FillRect(reinterpret_cast<HDC>(wParam), &rect, GetSysColorBrush(COLOR_BTNFACE));
-    return TRUE;
+    return FillWithFaceColor(m_hWnd, reinterpret_cast<HDC>(wParam));
 }
 
 LRESULT CFrameWindow::OnActivate(WPARAM wParam, LPARAM lParam)
@@ -235,10 +232,9 @@ std::wstring CFrameWindow::GetStatusText() const
     return text.c_str();
 }
 
-void CFrameWindow::OnFocusLeavesTab(int, bool bForward)
+void CFrameWindow::OnFocusLeavesTab(int, bool)
 {
     // Behind the page comes the address again: the way through the window is a circle.
-    static_cast<void>(bForward);
     m_queue->Post([this] { m_addressBar.TakeFocus(); });
 }
 
@@ -250,6 +246,8 @@ void CFrameWindow::OnTabClosed(int nTab)
 void CFrameWindow::TakeTabOut(int nTab)
 {
     const std::shared_ptr<CTab> tab = FindTab(nTab);
+    if (!tab)
+        return;
     const size_t nIndex = std::ranges::find(m_tabs, tab) - m_tabs.begin();
     m_tabs.erase(m_tabs.begin() + nIndex);
     TabCtrl_DeleteItem(m_tabStrip, nIndex);

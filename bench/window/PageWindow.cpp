@@ -12,7 +12,7 @@ namespace
 {
 constexpr wchar_t ClassName[] = L"Internet Explorer_Server";
 
-void RegisterPageClass()
+ATOM RegisterPageClass()
 {
     WNDCLASSEXW windowClass = {};
     windowClass.cbSize = sizeof windowClass;
@@ -21,7 +21,7 @@ void RegisterPageClass()
     windowClass.hInstance = AfxGetInstanceHandle();
     windowClass.hCursor = LoadCursorW(nullptr, IDC_ARROW);
     windowClass.lpszClassName = ClassName;
-    RegisterClassExW(&windowClass);
+    return RegisterClassExW(&windowClass);
 }
 
 /// The button that a message is about, None for any other message.
@@ -76,9 +76,9 @@ END_MESSAGE_MAP()
 
 bool CPageWindow::Create(HWND hWndParent, CWebBrowser& browser)
 {
-    static const bool bRegistered = (RegisterPageClass(), true);
+    static const ATOM nClass = RegisterPageClass();
     m_pBrowser = &browser;
-    return bRegistered &&
+    return nClass != 0 &&
            CreateEx(0, ClassName, nullptr, WS_CHILD | WS_VISIBLE | WS_CLIPSIBLINGS, RECT {}, hWndParent, 0);
 }
 

@@ -3,6 +3,7 @@
 #include "bench/com/WebBrowser.h"
 #include "bench/engine/Page.h"
 #include "bench/window/EventTap.h"
+#include "bench/window/FaceColor.h"
 #include "bench/window/RegisteredBands.h"
 
 #include <comutil.h>
@@ -122,11 +123,7 @@ void CTabWindow::OnChevronPushed(NMHDR* pHeader, LRESULT*)
 
 LRESULT CTabWindow::OnEraseBackground(WPARAM wParam, LPARAM)
 {
-    // Its children with transparent parts have their background drawn by this message.
-    RECT rect = {};
-    GetClientRect(m_hWnd, &rect);
-    FillRect(reinterpret_cast<HDC>(wParam), &rect, GetSysColorBrush(COLOR_BTNFACE));
-    return TRUE;
+    return FillWithFaceColor(m_hWnd, reinterpret_cast<HDC>(wParam));
 }
 
 void CTabWindow::Layout()

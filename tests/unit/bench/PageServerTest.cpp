@@ -121,6 +121,14 @@ TEST_F(PageServerTest, AnswersWithTheStatusThatIsAskedFor)
     EXPECT_EQ(Get(L"/status/503").dwStatus, 503u);
 }
 
+TEST_F(PageServerTest, KnowsItsOwnPathsAndThePagesOfItsFolder)
+{
+    for (const char* pszPath : {"/slow", "/redirect", "/download", "/search", "/status/404", "/page.html"})
+        EXPECT_TRUE(CPageServer::Knows(pszPath)) << pszPath;
+    for (const char* pszPath : {"/", "/slower", "/status", "/host/page.html", "/www.trelvix.example"})
+        EXPECT_FALSE(CPageServer::Knows(pszPath)) << pszPath;
+}
+
 TEST_F(PageServerTest, OffersADownload)
 {
     EXPECT_EQ(Get(L"/download").strType, L"application/octet-stream");

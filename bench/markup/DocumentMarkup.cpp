@@ -47,7 +47,7 @@ Json CDocumentMarkup::TakeList()
     Json texts = Json::array();
     for (const std::wstring& text : m_list.GetTexts())
         texts.push_back(ToUtf8(text));
-    Json arguments = {m_list.GetLines(), std::move(texts)};
+    Json arguments = {m_list.WriteLines(), std::move(texts)};
     m_list = {};
     return arguments;
 }

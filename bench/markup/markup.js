@@ -40,7 +40,7 @@ bench.markup = (() => {
     }
 
     const pointers = new Map();
-    const models = new Map(); // of elements to be made, by tag and attributes
+    const models = new Map(); // of elements to be made, by tag and then by attributes
     let text = null; // while it is known to be what the page shows
     let texts = []; // of the list under way
     let keepUntil = 0;
@@ -172,10 +172,11 @@ bench.markup = (() => {
     };
 
     const make = (tag, attributes) => {
-        const key = `${tag} ${attributes}`;
-        if (!models.has(key))
-            models.set(key, makeModel(tag, attributes));
-        return models.get(key).cloneNode(false);
+        const ofTag = models.get(tag) ?? new Map();
+        models.set(tag, ofTag);
+        if (!ofTag.has(attributes))
+            ofTag.set(attributes, makeModel(tag, attributes));
+        return ofTag.get(attributes).cloneNode(false);
     };
 
     const at = (number) => pointers.get(number);
@@ -203,6 +204,16 @@ bench.markup = (() => {
         insert: (element, start, end) => !at(start).isLost && insert(bench.element(element), at(start).place, at(end).place),
     };
 
+    /** Does lines again, each time for the next of the elements that the browser numbers, from -1 down. */
+    const repeat = (lines, times) => {
+        const next = (number, n) => (number < 0 ? number - n : number);
+        let answer = null;
+        for (let n = 1; n <= times; ++n)
+            for (const [operation, first, second, third] of lines)
+                answer = operation(next(first, n), next(second, n), next(third, n));
+        return answer;
+    };
+
     const begin = () => {
         const isKept = text && observer.takeRecords().length === 0 && performance.now() < keepUntil;
         observer.disconnect();
@@ -223,16 +234,23 @@ bench.markup = (() => {
     return {
         /**
          * Does what the list says, a line for each operation: its name and numbers, of which those for texts are indices.
-         * Answers what the last one answers.
+         * A line "repeat" tells how many of the last ones are done again, and how often. Answers what the last one answers.
          */
         run(list, listTexts) {
             texts = listTexts;
             begin();
             try {
+                const lines = [];
                 let answer = null;
                 for (const line of list.split("\n")) {
-                    const [name, first, second, third] = line.split(" ");
-                    answer = operations[name](+first, +second, +third);
+                    const [name, ...words] = line.split(" ");
+                    const numbers = words.map(Number);
+                    if (name === "repeat")
+                        answer = repeat(lines.slice(-numbers[0]), numbers[1]);
+                    else {
+                        lines.push([operations[name], ...numbers]);
+                        answer = operations[name](...numbers);
+                    }
                 }
                 return answer ?? null;
             } finally {

@@ -11,8 +11,8 @@ std::wstring CompleteUrl(const std::wstring& text);
 /// Whether the engine fetches addresses of this kind by requests that can be stopped before they go out.
 bool IsFetchedUrl(const std::wstring& url);
 
-/// Whether the engine shows addresses of this kind without any request. Those that are neither such nor fetched it can't
-/// load at all.
+/// Whether the engine shows addresses of this kind without any request. Those that are neither such nor fetched it
+/// can't load at all.
 bool IsUrlWithoutRequest(const std::wstring& url);
 
 /// Whether the address is a script to run in the document, and that script.

@@ -22,7 +22,10 @@ CMarkupPointer::CMarkupPointer(CDocument& document)
 
 CMarkupPointer::~CMarkupPointer()
 {
-    GetMarkup().Do("drop", {m_nPointer});
+    ComBoundary([&] {
+        GetMarkup().Do("drop", {m_nPointer});
+        return S_OK;
+    });
 }
 
 ComPtr<CMarkupPointer> CMarkupPointer::From(IMarkupPointer* pPointer, const CDocument& document)

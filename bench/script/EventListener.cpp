@@ -2,6 +2,7 @@
 
 #include "bench/script/EventJournal.h"
 #include "bench/script/FrameStates.h"
+#include "framework/ComBoundary.h"
 #include "framework/ComQuery.h"
 
 #include <comutil.h>
@@ -86,16 +87,23 @@ STDMETHODIMP CEventListener::Invoke(DISPID dispid, REFIID, LCID, WORD, DISPPARAM
 {
     if (pParams == nullptr)
         return E_INVALIDARG;
+    return ComBoundary([&] {
+        m_journal.Add(DescribeEvent(dispid, *pParams));
+        return S_OK;
+    });
+}
+
+std::wstring CEventListener::DescribeEvent(DISPID dispid, const DISPPARAMS& params) const
+{
     std::wstring line = std::to_wstring(m_nTab);
     line.append(1, L' ').append(GetEventName(dispid));
     // The last argument stands first.
-    for (UINT i = pParams->cArgs; i-- > 0;)
-        if (const std::wstring text = Describe(Follow(pParams->rgvarg[i])); !text.empty())
+    for (UINT i = params.cArgs; i-- > 0;)
+        if (const std::wstring text = Describe(Follow(params.rgvarg[i])); !text.empty())
             line.append(1, L' ').append(text);
     if (m_journal.IsWritten())
-        line += L" | " + DescribeFrames(m_pBrowser, GetFrame(*pParams), dispid == DISPID_BEFORENAVIGATE2);
-    m_journal.Add(line);
-    return S_OK;
+        line += L" | " + DescribeFrames(m_pBrowser, GetFrame(params), dispid == DISPID_BEFORENAVIGATE2);
+    return line;
 }
 
 std::wstring CEventListener::Describe(const VARIANT& argument) const

@@ -27,6 +27,7 @@ public:
                         EXCEPINFO* pException, UINT* pnArgument) override;
 
 private:
+    std::wstring DescribeEvent(DISPID dispid, const DISPPARAMS& params) const;
     std::wstring Describe(const VARIANT& argument) const;
     std::wstring DescribeObject(IUnknown* pObject) const;
 

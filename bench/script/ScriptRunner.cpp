@@ -47,8 +47,8 @@ bool IsArgument(const std::wstring& name, const std::wstring& text)
 struct CScriptRunner::CStepRow
 {
     const wchar_t* pszName;
-    const wchar_t*
-        pszArguments; ///< their names; one in brackets may be left out, one with bars lists the words to choose
+    /// Their names; one in brackets may be left out, one with bars lists the words to choose from.
+    const wchar_t* pszArguments;
     void (CScriptRunner::*pfnTake)(const Arguments&);
 
     bool Takes(const Arguments& arguments) const

@@ -1,6 +1,7 @@
 // What the broker writes when it registers itself, and what it leaves.
 
 #include "broker/SettingsBroker.h"
+#include "controls/ModuleManifest.h"
 #include "framework/Handles.h"
 #include "tests/system/BuiltFile.h"
 #include "tests/system/ChildProcess.h"
@@ -179,10 +180,10 @@ TEST(BrokerProgram, CountsInPixelsOfTheScreen)
     manifest.lpResourceName = CREATEPROCESS_MANIFEST_RESOURCE_ID;
     const HANDLE hContext = CreateActCtxW(&manifest);
     ASSERT_NE(INVALID_HANDLE_VALUE, hContext);
+    const CUniqueActCtx context(hContext);
     wchar_t szAware[16] = {};
     EXPECT_TRUE(QueryActCtxSettingsW(0, hContext, nullptr, L"dpiAware", szAware, ARRAYSIZE(szAware), nullptr));
     EXPECT_STREQ(L"true/pm", szAware);
-    ReleaseActCtx(hContext);
 }
 
 TEST(BrokerTypeLibrary, TellsOfADualInterfaceWithExecuteInTheEighthSlot)

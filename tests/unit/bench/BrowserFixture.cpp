@@ -1,6 +1,7 @@
 #include "tests/unit/bench/BrowserFixture.h"
 
 #include "framework/ComQuery.h"
+#include "framework/GuidText.h"
 #include "tests/unit/bench/TestPages.h"
 
 #include <comutil.h>
@@ -30,9 +31,7 @@ std::unique_ptr<CTestPages> CBrowserTest::s_pages;
 
 HRESULT CTestBrowserWindow::ShowBar(REFCLSID clsid, bool bShow, int nSize)
 {
-    wchar_t text[40];
-    StringFromGUID2(clsid, text, static_cast<int>(std::size(text)));
-    m_bars.push_back(text + std::wstring(bShow ? L" shown " : L" hidden ") + std::to_wstring(nSize));
+    m_bars.push_back(GetGuidText(clsid) + (bShow ? L" shown " : L" hidden ") + std::to_wstring(nSize));
     return S_OK;
 }
 
